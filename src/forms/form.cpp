@@ -142,23 +142,28 @@ void Form::moveFocus(bool backwards) {
 
 // ---- keys ------------------------------------------------------------------------------
 
-void Form::sendKey(Control& control, int keyCode, int shift, char32_t ch) {
+namespace {
+bool TypesText(const Control& c) {
+  return c.kind() == ControlKind::TextBox ||
+         (c.kind() == ControlKind::ComboBox && !c.isDropDownList());
+}
+}  // namespace
+
+Form::KeyResult Form::handleKey(Control& control, int keyCode, int shift, char32_t ch) {
   if (active_ != &control) setActiveControl(&control);
-  const bool typesText = control.kind() == ControlKind::TextBox ||
-                         (control.kind() == ControlKind::ComboBox && !control.isDropDownList());
 
   // Enter and Esc go to the form's default and cancel buttons first.
-  if (keyCode == keys::Return && !(typesText && control.isMultiLine()) &&
+  if (keyCode == keys::Return && !(TypesText(control) && control.isMultiLine()) &&
       control.kind() != ControlKind::CommandButton) {
     if (Control* b = defaultButton()) {
       b->click();
-      return;
+      return {true, 0, 0};
     }
   }
   if (keyCode == keys::Escape) {
     if (Control* b = cancelButton()) {
       b->click();
-      return;
+      return {true, 0, 0};
     }
   }
 
@@ -168,37 +173,45 @@ void Form::sendKey(Control& control, int keyCode, int shift, char32_t ch) {
   control.raise(Event::KeyDown, down);
   keyCode = down.keyCode;
 
-  if (keyCode != 0 && ch != 0 && !(shift & keys::CtrlMask) && !(shift & keys::AltMask) &&
-      keyCode != keys::Tab) {
+  if (keyCode == 0) return {true, 0, 0};
+  if (ch != 0 && !(shift & keys::CtrlMask) && !(shift & keys::AltMask) && keyCode != keys::Tab) {
     EventArgs press;
     press.keyAscii = static_cast<int>(ch);
     press.shift = shift;
     control.raise(Event::KeyPress, press);
+    if (press.keyAscii == 0) return {true, keyCode, 0};
     ch = static_cast<char32_t>(press.keyAscii);
-  } else if (keyCode == 0) {
-    ch = 0;
   }
+  return {false, keyCode, ch};
+}
 
-  if (keyCode != 0 || ch != 0) {
-    if (typesText) {
-      editText(control, keyCode, shift, ch);
-    } else if (control.kind() == ControlKind::Grid) {
-      moveInGrid(control, keyCode);
-    } else if (control.kind() == ControlKind::ListBox || control.kind() == ControlKind::ComboBox) {
-      moveInList(control, keyCode);
-    } else if ((control.kind() == ControlKind::CommandButton ||
-                control.kind() == ControlKind::CheckBox ||
-                control.kind() == ControlKind::OptionButton) &&
-               (ch == U' ' || (ch == U'\r' && control.kind() == ControlKind::CommandButton))) {
-      control.click();
-    }
-    if (keyCode == keys::Tab && control.form().loaded()) moveFocus(shift & keys::ShiftMask);
+void Form::defaultKeyAction(Control& control, int keyCode, int shift, char32_t ch) {
+  if (TypesText(control)) {
+    editText(control, keyCode, shift, ch);
+  } else if (control.kind() == ControlKind::Grid) {
+    moveInGrid(control, keyCode);
+  } else if (control.kind() == ControlKind::ListBox || control.kind() == ControlKind::ComboBox) {
+    moveInList(control, keyCode);
+  } else if ((control.kind() == ControlKind::CommandButton ||
+              control.kind() == ControlKind::CheckBox ||
+              control.kind() == ControlKind::OptionButton) &&
+             (ch == U' ' || (ch == U'\r' && control.kind() == ControlKind::CommandButton))) {
+    control.click();
   }
+  if (keyCode == keys::Tab && control.form().loaded()) moveFocus(shift & keys::ShiftMask);
+}
 
+void Form::keyUp(Control& control, int keyCode, int shift) {
   EventArgs up;
   up.keyCode = keyCode;
   up.shift = shift;
   control.raise(Event::KeyUp, up);
+}
+
+void Form::sendKey(Control& control, int keyCode, int shift, char32_t ch) {
+  const KeyResult r = handleKey(control, keyCode, shift, ch);
+  if (!r.consumed) defaultKeyAction(control, r.keyCode, shift, r.ch);
+  if (r.keyCode != 0) keyUp(control, r.keyCode, shift);
 }
 
 void Form::editText(Control& c, int keyCode, int shift, char32_t ch) {

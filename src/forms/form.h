@@ -69,6 +69,19 @@ class Form {
   // One key as the user types it: default and cancel buttons, KeyDown,
   // KeyPress, the control's own editing, KeyUp.
   void sendKey(Control& control, int keyCode, int shift, char32_t ch);
+
+  // The steps of sendKey for a view that edits natively. handleKey runs the
+  // default and cancel buttons and the KeyDown and KeyPress handlers; the
+  // view then lets its widget edit (or calls defaultKeyAction) unless the key
+  // was consumed, and finishes with keyUp.
+  struct KeyResult {
+    bool consumed = false;  // a button took the key, or a handler swallowed it
+    int keyCode = 0;        // as the handlers left them
+    char32_t ch = 0;
+  };
+  KeyResult handleKey(Control& control, int keyCode, int shift, char32_t ch);
+  void defaultKeyAction(Control& control, int keyCode, int shift, char32_t ch);
+  void keyUp(Control& control, int keyCode, int shift);
   // Focus to the next (or previous) control that can take it.
   void moveFocus(bool backwards);
 

@@ -28,8 +28,9 @@ void DisplayList::setDeviceSize(int widthPx, int heightPx) {
 void DisplayList::clear(Rgb background) {
   commands_.clear();
   commands_.push_back(Clear{background});
+  // Clearing keeps the scale and font, as a picture box does.
   if (scaled_) commands_.push_back(scale_);
-  commands_.push_back(SetFont{font_});
+  if (!(font_ == Font{})) commands_.push_back(SetFont{font_});
   ++generation_;
 }
 

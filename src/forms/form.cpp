@@ -171,9 +171,10 @@ Form::KeyResult Form::handleKey(Control& control, int keyCode, int shift, char32
   down.keyCode = keyCode;
   down.shift = shift;
   control.raise(Event::KeyDown, down);
+  // A handler clears the key code to swallow the key; a character without a
+  // key of its own (keyCode 0 from the start) still goes on to KeyPress.
+  if (keyCode != 0 && down.keyCode == 0) return {true, 0, 0};
   keyCode = down.keyCode;
-
-  if (keyCode == 0) return {true, 0, 0};
   if (ch != 0 && !(shift & keys::CtrlMask) && !(shift & keys::AltMask) && keyCode != keys::Tab) {
     EventArgs press;
     press.keyAscii = static_cast<int>(ch);

@@ -15,6 +15,10 @@ int KeyCodeOfChar(char32_t c) {
     case '-': return 189;
     case ',': return 188;
     case '.': return 190;
+    case U'ä': case U'Ä': return 222;  // German layout
+    case U'ö': case U'Ö': return 192;
+    case U'ü': case U'Ü': return 186;
+    case U'ß': return 219;
     default: return 0;
   }
 }

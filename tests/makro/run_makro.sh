@@ -1,26 +1,59 @@
 #!/usr/bin/env bash
 # run_makro.sh KOLM SCENARIO DATADIR: runs one macro scenario in a fresh
-# project folder with its own Kolm.ini. A scenario whose first line is
-# "# erwartet: N" expects exit status N instead of 0.
+# project folder with its own Kolm.ini.
+#
+# The comment lines at the top of a scenario may say what the run needs and
+# what it must give:
+#   # erwartet: N      the program ends with exit status N (default 0)
+#   # ausgabe: TEXT    the program's output contains TEXT (any number of lines)
+#   # projekt: demo    the project folder starts as a copy of the demo project
+# A sanitizer report in the output fails the scenario whatever the status.
 set -u
-kolm=$1 scenario=$2 data=$3
+kolm=$(realpath -- "$1") scenario=$(realpath -- "$2") data=$3
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
-mkdir -p "$work/projekt" "$work/config"
+mkdir -p "$work/projekt" "$work/config" "$work/laufzeit"
+chmod 700 "$work/laufzeit"
 export KOLM_INI="$work/config/Kolm.ini"
 export XDG_CONFIG_HOME="$work/config"
-export XDG_RUNTIME_DIR="$work"
+export XDG_RUNTIME_DIR="$work/laufzeit"
 export QT_QPA_PLATFORM=offscreen
-export KOLM_DATEN="$data"
+
 expected=0
-first=$(head -n 1 "$scenario")
-if [[ $first =~ ^#\ erwartet:\ ([0-9]+) ]]; then expected=${BASH_REMATCH[1]}; fi
+outputs=()
+while IFS= read -r line || [[ -n $line ]]; do
+  line=${line%$'\r'}
+  [[ -z ${line//[[:space:]]/} ]] && continue
+  [[ $line == \#* ]] || break
+  if [[ $line =~ ^#[[:space:]]*erwartet:[[:space:]]*([0-9]+)[[:space:]]*$ ]]; then
+    expected=${BASH_REMATCH[1]}
+  elif [[ $line =~ ^#[[:space:]]*ausgabe:[[:space:]]?(.*)$ ]]; then
+    outputs+=("${BASH_REMATCH[1]}")
+  elif [[ $line =~ ^#[[:space:]]*projekt:[[:space:]]*demo[[:space:]]*$ ]]; then
+    if [[ -d "$data/Demo Projekt" ]]; then
+      cp -R "$data/Demo Projekt/." "$work/projekt/"
+    fi
+  fi
+done <"$scenario"
+
 cd "$work"
 "$kolm" --makro "$scenario" "$work/projekt" >"$work/out.txt" 2>&1
 status=$?
 cat "$work/out.txt"
+
+failed=0
 if [[ $status -ne $expected ]]; then
   echo "Exit-Status $status, erwartet $expected"
-  exit 1
+  failed=1
 fi
-exit 0
+for text in "${outputs[@]}"; do
+  if ! grep -qF -- "$text" "$work/out.txt"; then
+    echo "Ausgabe enthält nicht: $text"
+    failed=1
+  fi
+done
+if grep -qE 'ERROR: (AddressSanitizer|LeakSanitizer)|SUMMARY: UndefinedBehaviorSanitizer|runtime error: ' "$work/out.txt"; then
+  echo "Sanitizer-Bericht in der Ausgabe"
+  failed=1
+fi
+exit $failed

@@ -1,0 +1,20 @@
+#pragma once
+#include <QIcon>
+#include <string>
+#include <vector>
+
+namespace kolm::shell {
+
+// Icon of a button of the main window's bars by the name the model gives it
+// (Control::iconName). Open and save come from the style, print, cut, copy
+// and paste from the desktop theme where it has them; the rest are drawn.
+// An unknown name gives a null icon.
+QIcon BarIcon(const std::string& name);
+
+// Every name BarIcon knows.
+std::vector<std::string> BarIconNames();
+
+// The drawn glyph alone, without style or theme, at size x size pixels.
+QPixmap DrawnGlyph(const std::string& name, int size);
+
+}  // namespace kolm::shell

@@ -623,16 +623,6 @@ QIcon BarIcon(const std::string& name) {
   QStyle* style = QApplication::style();
   if (style && name == "tabelle_oeffnen") return style->standardIcon(QStyle::SP_DialogOpenButton);
   if (style && name == "tabelle_speichern") return style->standardIcon(QStyle::SP_DialogSaveButton);
-  static const std::map<std::string, const char*> themed = {
-      {"drucken", "document-print"},
-      {"ausschneiden", "edit-cut"},
-      {"kopieren", "edit-copy"},
-      {"einfuegen", "edit-paste"},
-  };
-  if (auto t = themed.find(name); t != themed.end()) {
-    const QIcon fromTheme = QIcon::fromTheme(QString::fromLatin1(t->second));
-    if (!fromTheme.isNull()) return fromTheme;
-  }
   if (!Glyphs().count(name)) return {};
   QIcon icon;
   for (int size : {16, 24, 32, 48}) icon.addPixmap(DrawnGlyph(name, size));

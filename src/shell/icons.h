@@ -6,9 +6,9 @@
 namespace kolm::shell {
 
 // Icon of a button of the main window's bars by the name the model gives it
-// (Control::iconName). Open and save come from the style, print, cut, copy
-// and paste from the desktop theme where it has them; the rest are drawn.
-// An unknown name gives a null icon.
+// (Control::iconName). Open and save come from the style; the rest are drawn,
+// as the style has none for them and theme icons crash at exit under a static
+// QApplication (the test programs). An unknown name gives a null icon.
 QIcon BarIcon(const std::string& name);
 
 // Every name BarIcon knows.

@@ -3,19 +3,17 @@
 #include <QAction>
 #include <QCheckBox>
 #include <QCloseEvent>
+#include <QHideEvent>
 #include <QComboBox>
-#include <QCoreApplication>
 #include <QDockWidget>
 #include <QHBoxLayout>
 #include <QKeySequence>
 #include <QLabel>
 #include <QMdiArea>
-#include <QMdiSubWindow>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMouseEvent>
 #include <QStatusBar>
-#include <QTimer>
 #include <QToolBar>
 #include <functional>
 
@@ -65,64 +63,12 @@ class ClickLabel final : public QLabel {
   }
 };
 
-std::vector<QMdiSubWindow*> Arrangeable(QMdiArea* area) {
-  std::vector<QMdiSubWindow*> list;
-  for (QMdiSubWindow* w : area->subWindowList())
-    if (!w->isHidden() && !w->isMinimized()) list.push_back(w);
-  return list;
-}
-
 }  // namespace
-
-// ---- desktop ------------------------------------------------------------------------
-
-void MdiDesktop::cascade() { area_->cascadeSubWindows(); }
-
-void MdiDesktop::tileHorizontally() {
-  const auto windows = Arrangeable(area_);
-  if (windows.empty()) return;
-  const QRect r = area_->viewport()->rect();
-  const int h = r.height() / static_cast<int>(windows.size());
-  for (size_t i = 0; i < windows.size(); ++i) {
-    if (windows[i]->isMaximized()) windows[i]->showNormal();
-    windows[i]->setGeometry(0, static_cast<int>(i) * h, r.width(), h);
-  }
-}
-
-void MdiDesktop::tileVertically() {
-  const auto windows = Arrangeable(area_);
-  if (windows.empty()) return;
-  const QRect r = area_->viewport()->rect();
-  const int w = r.width() / static_cast<int>(windows.size());
-  for (size_t i = 0; i < windows.size(); ++i) {
-    if (windows[i]->isMaximized()) windows[i]->showNormal();
-    windows[i]->setGeometry(static_cast<int>(i) * w, 0, w, r.height());
-  }
-}
-
-void MdiDesktop::arrangeIcons() {
-  const QRect r = area_->viewport()->rect();
-  int x = 0, y = r.height();
-  for (QMdiSubWindow* w : area_->subWindowList()) {
-    if (!w->isMinimized() || w->isHidden()) continue;
-    const QSize s = w->size();
-    if (x > 0 && x + s.width() > r.width()) {
-      x = 0;
-      y -= s.height();
-    }
-    w->move(x, y - s.height());
-    x += s.width();
-  }
-}
-
-void MdiDesktop::quit() {
-  QTimer::singleShot(0, QCoreApplication::instance(), [] { QCoreApplication::quit(); });
-}
 
 // ---- window -------------------------------------------------------------------------
 
 MainWindow::MainWindow(MainForm& main, QWidget* parent)
-    : QMainWindow(parent), main_(main), mdi_(new QMdiArea(this)), desktop_(mdi_) {
+    : QMainWindow(parent), main_(main), mdi_(new QMdiArea(this)) {
   setObjectName("Main");
   mdi_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
   mdi_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
@@ -142,7 +88,16 @@ MainWindow::MainWindow(MainForm& main, QWidget* parent)
   main_.addObserver(this);
 }
 
-MainWindow::~MainWindow() { main_.removeObserver(this); }
+MainWindow::~MainWindow() {
+  if (attached_) main_.removeObserver(this);
+}
+
+void MainWindow::detach() {
+  if (!attached_) return;
+  attached_ = false;
+  main_.removeObserver(this);
+  setEnabled(false);
+}
 
 void MainWindow::buildMenus() {
   for (Control* c : main_.menuControls()) {
@@ -377,8 +332,18 @@ void MainWindow::sync(Control& c) {
 
 void MainWindow::closeEvent(QCloseEvent* event) {
   // The model decides; agreeing, it ends the program.
-  if (!main_.loaded() || main_.forms().unload(main_)) event->accept();
-  else event->ignore();
+  if (!attached_ || main_.forms().unload(main_)) {
+    detach();
+    event->accept();
+  } else {
+    event->ignore();
+  }
+}
+
+void MainWindow::hideEvent(QHideEvent* event) {
+  // The host hides the frame when Main was unloaded by its own Beenden.
+  if (attached_ && !main_.loaded()) detach();
+  QMainWindow::hideEvent(event);
 }
 
 }  // namespace kolm::shell

@@ -5,7 +5,6 @@
 
 #include "core/main/main_form.h"
 #include "forms/form.h"
-#include "forms/services.h"
 
 class QAction;
 class QCheckBox;
@@ -17,25 +16,11 @@ class QToolBar;
 
 namespace kolm::shell {
 
-// The frame's operations on the child windows of a QMdiArea; quit ends the
-// event loop once the running handler has returned.
-class MdiDesktop final : public forms::DesktopService {
- public:
-  explicit MdiDesktop(QMdiArea* area) : area_(area) {}
-  void cascade() override;
-  void tileHorizontally() override;  // one below the other, full width
-  void tileVertically() override;    // side by side, full height
-  void arrangeIcons() override;      // minimised windows along the bottom
-  void quit() override;
-
- private:
-  QMdiArea* area_;
-};
-
 // The main window: renders the Main model (menu bar, button bars, settings
 // strip, BlueBox, status line) around the area of the child windows. What the
 // user does goes to the model; what the model changes comes back here.
-// The window must go before the form object does.
+// Once Main is unloaded (close box, Beenden) the window lets go of it and
+// takes no more input, so the form may be collected before the window goes.
 class MainWindow final : public QMainWindow, public forms::FormObserver {
   Q_OBJECT
  public:
@@ -44,7 +29,6 @@ class MainWindow final : public QMainWindow, public forms::FormObserver {
 
   core::MainForm& model() const { return main_; }
   QMdiArea* mdiArea() const { return mdi_; }
-  forms::DesktopService& desktop() { return desktop_; }
 
   // The widgets that show a control, for the shell and its tests.
   QAction* action(const std::string& name, int index = -1) const;  // menu entry or bar button
@@ -58,6 +42,7 @@ class MainWindow final : public QMainWindow, public forms::FormObserver {
 
  protected:
   void closeEvent(QCloseEvent* event) override;
+  void hideEvent(QHideEvent* event) override;
   // No bar can be hidden behind the model's back.
   QMenu* createPopupMenu() override { return nullptr; }
 
@@ -68,11 +53,12 @@ class MainWindow final : public QMainWindow, public forms::FormObserver {
   void buildBlueBox();
   void sync(forms::Control& control);
   void syncAll();
+  void detach();
 
   core::MainForm& main_;
   QMdiArea* mdi_;
-  MdiDesktop desktop_;
   QLabel* status_ = nullptr;
+  bool attached_ = true;
   std::map<const forms::Control*, QAction*> actions_;
   std::map<const forms::Control*, QMenu*> menus_;
   std::map<const forms::Control*, QToolBar*> bars_;

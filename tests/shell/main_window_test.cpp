@@ -10,7 +10,6 @@
 #include <QImage>
 #include <QLabel>
 #include <QMdiArea>
-#include <QMdiSubWindow>
 #include <QMenu>
 #include <QMenuBar>
 #include <QToolBar>
@@ -208,33 +207,34 @@ TEST_F(MainWindowFixture, CloseBoxAsksTheModel) {
   EXPECT_TRUE(event.isAccepted());
   EXPECT_EQ(forms.find("Main"), nullptr);
   EXPECT_EQ(scripted.desktop.calls(), std::vector<std::string>{"quit"});
+  // The window let go of the form: it may be collected before the window goes.
+  EXPECT_FALSE(window->isEnabled());
+  forms.collect();
 }
 
-TEST_F(MainWindowFixture, WindowEntriesArrangeTheChildWindows) {
-  MdiDesktop desktop(window->mdiArea());
-  window->resize(900, 700);
+TEST_F(MainWindowFixture, BeendenLeavesTheWindowInertOnceHidden) {
   window->show();
-  std::vector<QMdiSubWindow*> subs;
-  for (int i = 0; i < 3; ++i) {
-    auto* w = window->mdiArea()->addSubWindow(new QLabel("Fenster"));
-    w->show();
-    subs.push_back(w);
-  }
-  const QRect area = window->mdiArea()->viewport()->rect();
+  window->action("MnuDateiBeenden")->trigger();
+  EXPECT_EQ(scripted.desktop.calls(), std::vector<std::string>{"quit"});
+  window->hide();  // as the host does for an unloaded form
+  EXPECT_FALSE(window->isEnabled());
+  forms.collect();
+}
 
-  desktop.tileVertically();
-  for (QMdiSubWindow* w : subs) EXPECT_EQ(w->height(), area.height());
-  EXPECT_LT(subs[0]->x(), subs[1]->x());
-  EXPECT_LT(subs[1]->x(), subs[2]->x());
-
-  desktop.tileHorizontally();
-  for (QMdiSubWindow* w : subs) EXPECT_EQ(w->width(), area.width());
-  EXPECT_LT(subs[0]->y(), subs[1]->y());
-  EXPECT_LT(subs[1]->y(), subs[2]->y());
-
-  desktop.cascade();
-  EXPECT_LT(subs[0]->pos().x(), subs[2]->pos().x());
-  window->hide();
+TEST_F(MainWindowFixture, RefusedCloseKeepsTheWindow) {
+  struct Zaudernd : MainForm {
+    using MainForm::MainForm;
+    bool QueryUnload() override { return false; }
+  };
+  forms.registerForm("Zaudernd", [](forms::Forms& f) { return std::make_unique<Zaudernd>(f); });
+  auto& zaudernd = static_cast<MainForm&>(*forms.load("Zaudernd"));
+  MainWindow other(zaudernd);
+  QCloseEvent event;
+  QCoreApplication::sendEvent(&other, &event);
+  EXPECT_FALSE(event.isAccepted());
+  EXPECT_TRUE(other.isEnabled());
+  EXPECT_TRUE(scripted.desktop.calls().empty());
+  EXPECT_TRUE(zaudernd.loaded());
 }
 
 TEST(BarIcons, EveryButtonHasADistinctIcon) {

@@ -116,8 +116,6 @@ std::optional<double> Plain(std::optional<std::string_view> text) {
   return numbers::ValGeprueft(*text);
 }
 
-std::string ZeileBeenden(std::string zeile) { return zeile + "\r\n"; }
-
 }  // namespace
 
 // ---- File names ----------------------------------------------------------------
@@ -135,7 +133,11 @@ std::string BildDatei(const Zustand& z, std::string_view stamm, int slot, const 
   // Blanks and NULs that fill the suffix are not part of a file name.
   std::string suffix = endung.Text();
   while (!suffix.empty() && (suffix.back() == ' ' || suffix.back() == '\0')) suffix.pop_back();
-  return TabellenDatei(z, stamm, "_" + numbers::Format(slot, "000") + "." + suffix);
+  std::string name = "_";
+  name += numbers::Format(slot, "000");
+  name += '.';
+  name += suffix;
+  return TabellenDatei(z, stamm, name);
 }
 
 bool TestStamm(std::string_view stamm) {
@@ -367,10 +369,15 @@ bool SchreibeBerechnungen(TabellenKontext& k, std::string_view stamm) {
   if (TestStamm(stamm)) return false;
   Zustand& z = k.zustand;
   std::string text;
-  const auto zahl = [&text](double x) { text += ZeileBeenden(numbers::ZahlAlsText(x, ".")); };
+  const auto zahl = [&text](double x) {
+    text += numbers::ZahlAlsText(x, ".");
+    text += "\r\n";
+  };
   for (const Berechnung& b : z.Berechnungen) {
     if (b.LVNr.IstLeer()) continue;
-    text += ZeileBeenden("\"" + b.LVNr.Text() + "\"");
+    text += '"';
+    text += b.LVNr.Text();
+    text += "\"\r\n";
     zahl(b.Ergebnis);
     zahl(b.Flaeche);
     zahl(b.Farbe);

@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QEvent>
 #include <QHeaderView>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QStringList>
 #include <QStyleOptionHeader>
@@ -171,7 +172,11 @@ void GridView::act(F&& f) {
 }
 
 void GridView::mousePressEvent(QMouseEvent* e) { act([&] { QTableView::mousePressEvent(e); }); }
-void GridView::mouseMoveEvent(QMouseEvent* e) { act([&] { QTableView::mouseMoveEvent(e); }); }
+void GridView::mouseMoveEvent(QMouseEvent* e) {
+  // Only a drag selects; hovering must not move the model's cell.
+  if (e->buttons() == Qt::NoButton) QTableView::mouseMoveEvent(e);
+  else act([&] { QTableView::mouseMoveEvent(e); });
+}
 void GridView::mouseReleaseEvent(QMouseEvent* e) { act([&] { QTableView::mouseReleaseEvent(e); }); }
 void GridView::keyPressEvent(QKeyEvent* e) { act([&] { QTableView::keyPressEvent(e); }); }
 

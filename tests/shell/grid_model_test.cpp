@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QHeaderView>
+#include <algorithm>
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QTest>
@@ -163,6 +164,27 @@ TEST_F(GridFixture, ClicksAndKeysMoveTheModelsCell) {
   EXPECT_EQ(g.gridData().row, 3);
   EXPECT_EQ(g.gridData().rowSel, 3);
   EXPECT_EQ(g.gridData().col, 3);
+}
+
+TEST_F(GridFixture, DraggingSelectsAndHoveringDoesNothing) {
+  Control& g = form->grid();
+  form->log.clear();
+  QTest::mousePress(table->viewport(), Qt::LeftButton, {}, centreOf(1, 1));
+  QTest::mouseMove(table->viewport(), centreOf(3, 2));
+  QTest::mouseRelease(table->viewport(), Qt::LeftButton, {}, centreOf(3, 2));
+  EXPECT_EQ(g.gridData().row, 1);
+  EXPECT_EQ(g.gridData().col, 1);
+  EXPECT_EQ(g.gridData().rowSel, 3);
+  EXPECT_EQ(g.gridData().colSel, 2);
+  EXPECT_EQ(std::count(form->log.begin(), form->log.end(), "SelChange"), 1);
+
+  // Form logic may point at a fixed cell; moving the mouse over the grid leaves it there.
+  g.setCurrentCell(0, 2);
+  form->log.clear();
+  QTest::mouseMove(table->viewport(), centreOf(4, 3));
+  QTest::mouseMove(table->viewport(), centreOf(2, 1));
+  EXPECT_EQ(g.gridData().row, 0);
+  EXPECT_TRUE(form->log.empty());
 }
 
 TEST_F(GridFixture, TypedCharactersGoToTheFormNotToASearch) {

@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 
 #include "forms/keys.h"
+#include "shell_test_app.h"
 
 namespace kolm::shell {
 namespace {
@@ -12,6 +13,7 @@ namespace {
 namespace keys = forms::keys;
 
 KeyStroke Map(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier, const QString& text = {}) {
+  test::App();  // key events belong to the application's keyboard
   const QKeyEvent event(QEvent::KeyPress, key, modifiers, text);
   return MapKey(event);
 }

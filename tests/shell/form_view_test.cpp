@@ -15,6 +15,7 @@
 #include <QTest>
 #include <QTextBrowser>
 #include <QTimer>
+#include <QToolButton>
 #include <functional>
 #include <string>
 #include <vector>
@@ -506,6 +507,39 @@ TEST(FormViewPicture, DrawingAndMouseUseTheControlsScale) {
   EXPECT_NEAR(form.downs[0].y, 7.5, 0.01);
   EXPECT_EQ(form.downs[0].button, 1);
   QTest::mouseRelease(picture, Qt::LeftButton, {}, QPoint(50, 25));
+}
+
+TEST(FormViewSpin, ArrowsRaiseSpinUpAndSpinDown) {
+  test::App();
+  forms::ScriptedServices scripted;
+  forms::Forms forms(scripted.services);
+  class Zaehler final : public forms::Form {
+   public:
+    explicit Zaehler(forms::Forms& f) : Form(f, "Zaehler", "Zähler") {
+      add(ControlKind::TextBox, "Anzahl").at(0, 0);
+      add(ControlKind::SpinButton, "Pfeile").at(0, 1);
+      on("Pfeile", Event::SpinUp, [this](Control&, EventArgs&) { control("Anzahl").setText(std::to_string(++n)); });
+      on("Pfeile", Event::SpinDown, [this](Control&, EventArgs&) { control("Anzahl").setText(std::to_string(--n)); });
+    }
+    int n = 0;
+  } form(forms);
+  FormWidget w(form);
+  w.show();
+  QWidget* spin = w.widgetOf(form.control("Pfeile"));
+  ASSERT_NE(spin, nullptr);
+  const QList<QToolButton*> arrows = spin->findChildren<QToolButton*>();
+  ASSERT_EQ(arrows.size(), 2);
+  QToolButton* up = arrows[0]->arrowType() == Qt::UpArrow ? arrows[0] : arrows[1];
+  QToolButton* down = up == arrows[0] ? arrows[1] : arrows[0];
+  QTest::mouseClick(up, Qt::LeftButton);
+  QTest::mouseClick(up, Qt::LeftButton);
+  QTest::mouseClick(down, Qt::LeftButton);
+  EXPECT_EQ(form.n, 1);
+  QTest::keyClick(spin, Qt::Key_Up);
+  EXPECT_EQ(form.n, 2);
+  EXPECT_EQ(qobject_cast<QLineEdit*>(w.widgetOf(form.control("Anzahl")))->text(), "2");
+  form.control("Pfeile").setEnabled(false);
+  EXPECT_FALSE(spin->isEnabled());
 }
 
 TEST(FormViewRichText, InternalLinksSetTagAndClick) {

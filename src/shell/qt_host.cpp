@@ -294,7 +294,8 @@ void QtHost::runModal(forms::Form& form) {
   QEventLoop* outer = nullptr;
   if (auto it = modalLoops_.find(&form); it != modalLoops_.end()) outer = it->second;
   modalLoops_[&form] = &loop;
-  loop.exec(QEventLoop::DialogExec);
+  if (modalRunner_) modalRunner_(form);
+  else loop.exec(QEventLoop::DialogExec);
   if (outer) modalLoops_[&form] = outer;
   else modalLoops_.erase(&form);
   // The code that showed the modal form may still read it.

@@ -32,6 +32,11 @@ class QtHost final : public QObject, public forms::FormHost {
   ~QtHost() override;
 
   void registerWindow(const std::string& formName, WindowFactory factory);
+  // Drives modal forms instead of waiting for the user (a macro run goes on
+  // with its next lines while the form is up). runModal returns when the
+  // runner does.
+  using ModalRunner = std::function<void(forms::Form& form)>;
+  void setModalRunner(ModalRunner runner) { modalRunner_ = std::move(runner); }
   // Widgets of their own for single controls of the generic views.
   ControlViews& controlViews() { return views_; }
 
@@ -72,6 +77,7 @@ class QtHost final : public QObject, public forms::FormHost {
   std::map<std::string, WindowFactory> factories_;
   std::map<forms::Form*, std::unique_ptr<Entry>> entries_;
   std::map<forms::Form*, QEventLoop*> modalLoops_;
+  ModalRunner modalRunner_;
   QPointer<QObject> collector_;
   forms::Forms* pendingCollect_ = nullptr;
   bool timersEnabled_ = true;

@@ -171,6 +171,23 @@ TEST_F(HostFixture, RunModalReturnsWhenTheFormHides) {
   EXPECT_FALSE(host->windowOf(*kreis)->isVisible());
 }
 
+TEST_F(HostFixture, ModalRunnerDrivesTheModalForm) {
+  std::string seen;
+  host->setModalRunner([&](forms::Form& f) {
+    seen = f.name();
+    auto* dialog = qobject_cast<QDialog*>(host->windowOf(f));
+    ASSERT_NE(dialog, nullptr);
+    EXPECT_TRUE(dialog->isVisible());
+    f.control("Wert").setText("3");
+    f.control("OK").click();  // unloads the form
+  });
+  forms::Form* kreis = forms.show("Kreis", true);
+  EXPECT_EQ(seen, "Kreis");
+  ASSERT_NE(kreis, nullptr);
+  EXPECT_EQ(kreis->control("Wert").text(), "3");  // still readable by the caller
+  EXPECT_FALSE(kreis->loaded());
+}
+
 TEST_F(HostFixture, PlacementIsAppliedOnShowAndWrittenBackOnResize) {
   scripted.placements.write("Linie", {40, 30, 420, 260, false});
   Fenster* linie = show("Linie");

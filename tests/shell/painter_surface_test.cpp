@@ -151,6 +151,33 @@ TEST(PainterSurface, TextHangsBelowAndRightOfItsPosition) {
   EXPECT_EQ(left, 0);
 }
 
+TEST(PainterSurface, EscapementTurnsTextCounterClockwise) {
+  test::App();
+  DisplayList list;
+  list.clear(kWhite);
+  forms::Font font;
+  font.family = "DejaVu Sans";
+  font.sizePt = 14;
+  font.escapementDeg = 90;  // reads upwards
+  list.setFont(font);
+  list.setPen(kBlack, 1, LineStyle::Solid);
+  list.text(40, 90, "MMMM");
+  const QImage image = Render(list);
+  int above = 0, below = 0, left = 0, farRight = 0;
+  for (int y = 0; y < 100; ++y)
+    for (int x = 0; x < 100; ++x) {
+      if (IsWhite(image, x, y)) continue;
+      if (y < 90) ++above;
+      else ++below;
+      if (x < 40) ++left;
+      if (x > 70) ++farRight;
+    }
+  EXPECT_GT(above, 20);
+  EXPECT_EQ(below, 0);
+  EXPECT_EQ(left, 0);
+  EXPECT_EQ(farRight, 0);  // one line high, not a line long
+}
+
 TEST(PainterSurface, TextExtentIsInUserUnits) {
   test::App();
   QImage image(200, 100, QImage::Format_RGB32);

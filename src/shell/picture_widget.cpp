@@ -17,6 +17,9 @@ PictureWidget::PictureWidget(forms::Control& control, QWidget* parent)
   setAttribute(Qt::WA_OpaquePaintEvent);
   setMouseTracking(true);
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+  // Texts drawn here are measured with the real fonts.
+  if (const forms::TextMeasurer* measurer = control.form().services().measurer)
+    control.picture().setMeasurer(measurer);
   // Form logic draws into the list without telling anyone; a cheap look at
   // its counters while shown keeps the screen current.
   watch_.setInterval(100);

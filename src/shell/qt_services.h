@@ -1,5 +1,6 @@
 #pragma once
 #include <QMessageBox>
+#include <QMdiArea>
 #include <QPointer>
 #include <QSerialPort>
 #include <QString>

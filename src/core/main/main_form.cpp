@@ -366,6 +366,12 @@ void MainForm::declareStrip() {
 
   add(ControlKind::Label, "LabelInfo").at(5, 0);
 
+  // Auto-save counts minutes; the drop wait keeps a closing dialog's mouse
+  // release from counting as a drop.
+  add(ControlKind::Timer, "TimerAuto").interval(60000).disabled();
+  add(ControlKind::Timer, "TimerDropWait").interval(500).disabled();
+  on("TimerDropWait", Event::Timer, [](Control& t, EventArgs&) { t.setEnabled(false); });
+
   add(ControlKind::Label, "DragContainer")
       .caption("Blue Box für Drag && Drop")
       .tip("Ablage für einen Wert oder Punkt: hierher ziehen, später wieder herausziehen")

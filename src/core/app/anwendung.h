@@ -1,0 +1,93 @@
+#pragma once
+#include <string>
+
+#include "core/state/zustand.h"
+#include "core/tables/tabellen_dateien.h"
+#include "forms/forms.h"
+
+namespace kolm::core {
+
+class MainForm;
+
+// The running program's core: the state, the loaded forms and the steps
+// that hold them together — refreshing open dialogs, opening and saving the
+// active table, the save questions and the auto-save. No window system here.
+class Anwendung {
+ public:
+  Anwendung(Zustand& zustand, forms::Forms& forms);
+  Anwendung(const Anwendung&) = delete;
+  Anwendung& operator=(const Anwendung&) = delete;
+
+  Zustand& zustand() const { return zustand_; }
+  forms::Forms& forms() const { return forms_; }
+  forms::Services& dienste() const { return forms_.services(); }
+  TabellenKontext& kontext() { return kontext_; }
+
+  // Main once it is loaded; the settings strip and TimerAuto report here.
+  void setMain(MainForm* main);
+  MainForm* main() const { return main_; }
+
+  // ---- Refreshing open dialogs: each triggers the hidden command of its
+  // dialog when that is loaded, and does nothing otherwise.
+  void RefreshBerechnen();
+  void RefreshBerechnungen();
+  void RefreshBeschriftungen();
+  void RefreshKontrolleSystem();
+  void RefreshGrafikKontrolle();
+  void RefreshGrafik();
+  void RefreshImportTabelle();
+  void RefreshPunkteKontrolle();
+  void RefreshPunkteTabelle();
+  // The point grid repaints the row of this number (PunktZumAuffrischen).
+  void RefreshPunkt(int nummer);
+  void RereadPunkteTabelle();
+  void RefreshSkizze();
+  void RefreshVariablen();
+  void RereadVariablen();
+  void RefreshHintergrund();
+  void RefreshVerbindungen();
+  int PunktZumAuffrischen() const { return punktZumAuffrischen_; }
+  // The refreshes after another table was opened, in their order.
+  void NachTabellenwechselAuffrischen();
+
+  // ---- The active table
+  // Opens catalogue row `zeile` the common way: clear, read the files with
+  // their status texts, set the main window, copy the view values, refresh,
+  // "Tabelle ... geladen". A row without a name clears the tables only.
+  void TabelleOeffnen(int zeile);
+  // Check3D, CheckPolar, KoordinatenSystem and the two labels of Main from
+  // the active row, without storing anything back (Laden is set meanwhile).
+  void HauptfensterAusAktiverZeile();
+  // The save command of Main.
+  void TabelleSpeichernBefehl();
+  // Asks question (yes/no) when the active table has changed and its row a
+  // name; yes saves.
+  void SpeichernFragen(const std::string& frage = "Aktive Tabelle speichern?");
+  // The question on closing, with yes, no and cancel; false when cancelled.
+  bool SchliessenFragen();
+  // True when the active row lies in 0 .. 500 and has a name.
+  bool AktiveZeileBenannt() const;
+
+  // ---- Auto-save
+  // One tick of TimerAuto; the counter lives here.
+  void TimerAutoTick();
+  // Interval in minutes, 0 off: sets Intervall, the timer and the check
+  // mark of MnuOptionenAutoSpeichern.
+  void IntervallSetzen(int minuten);
+  int AutoZaehler() const { return autoZaehler_; }
+
+  void Status(const std::string& text);
+
+ private:
+  void EinstellungGeaendert(forms::Control& control);
+  void Trigger(const char* form, const char* befehl);
+
+  Zustand& zustand_;
+  forms::Forms& forms_;
+  TabellenKontext kontext_;
+  MainForm* main_ = nullptr;
+  int punktZumAuffrischen_ = -1;
+  int autoZaehler_ = 0;
+};
+
+}  // namespace kolm::core

@@ -20,7 +20,8 @@ export QT_QPA_PLATFORM=offscreen
 export LC_ALL=C.UTF-8
 : "${ASAN_OPTIONS:=detect_leaks=1:detect_stack_use_after_return=1:check_initialization_order=1:strict_init_order=1:halt_on_error=1}"
 : "${UBSAN_OPTIONS:=print_stacktrace=1:halt_on_error=1:report_error_type=1}"
-export ASAN_OPTIONS UBSAN_OPTIONS
+: "${LSAN_OPTIONS:=suppressions=$(cd "$(dirname "$0")" && pwd)/lsan.supp}"
+export ASAN_OPTIONS UBSAN_OPTIONS LSAN_OPTIONS
 # Einstellungen und Laufzeitdateien der Tests bleiben aus dem Benutzerprofil.
 umgebung=$(mktemp -d)
 trap 'rm -rf "$umgebung"' EXIT

@@ -75,6 +75,11 @@ void Form::notify(Control& control, Property property, int row, int col) {
   for (FormObserver* o : observers) o->propertyChanged(control, property, row, col);
 }
 
+void Form::notifyUnloaded() {
+  const std::vector<FormObserver*> observers = observers_;
+  for (FormObserver* o : observers) o->formUnloaded();
+}
+
 bool Form::dispatch(Control& control, Event event, EventArgs& args) {
   auto it = handlers_.find({NameKey(control.name()), event});
   if (it == handlers_.end()) return false;

@@ -21,6 +21,9 @@ class FormObserver {
   virtual ~FormObserver() = default;
   virtual void propertyChanged(Control& control, Property property, int row, int col) = 0;
   virtual void formCaptionChanged() {}
+  // The form is being unloaded; an observer lets go of it here, as the form
+  // object itself goes away soon after.
+  virtual void formUnloaded() {}
 };
 
 // A dialog of the system as a model: its named controls, their handlers and
@@ -98,6 +101,7 @@ class Form {
 
   // Raised by controls.
   void notify(Control& control, Property property, int row, int col);
+  void notifyUnloaded();
   bool dispatch(Control& control, Event event, EventArgs& args);
 
  protected:

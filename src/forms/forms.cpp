@@ -104,6 +104,7 @@ bool Forms::unload(Form& form) {
     services_.placements->write(form.name(), form.placement_);
   form.loaded_ = false;
   form.shown_ = false;
+  form.notifyUnloaded();
   if (host_) host_->formUnloaded(form);
   auto it = std::find_if(loaded_.begin(), loaded_.end(),
                          [&](const std::unique_ptr<Form>& f) { return f.get() == &form; });
@@ -124,6 +125,7 @@ void Forms::unloadAll() {
         services_.placements->write(form.name(), form.placement_);
       form.loaded_ = false;
       form.shown_ = false;
+      form.notifyUnloaded();
       if (host_) host_->formUnloaded(form);
     }
     if (!loaded_.empty() && loaded_.back().get() == &form) {

@@ -39,6 +39,7 @@ class MainWindow final : public QMainWindow, public forms::FormObserver {
 
   void propertyChanged(forms::Control& control, forms::Property property, int row, int col) override;
   void formCaptionChanged() override;
+  void formUnloaded() override { detach(); }
 
  protected:
   void closeEvent(QCloseEvent* event) override;

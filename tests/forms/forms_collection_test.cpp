@@ -137,3 +137,27 @@ TEST(Handlers, AnExceptionInAHandlerBecomesAMessageAndGoesNoFurther) {
 
 }  // namespace
 }  // namespace kolm::forms::testing
+
+namespace kolm::forms::testing {
+namespace {
+
+struct Beobachter : FormObserver {
+  void propertyChanged(Control&, Property, int, int) override {}
+  void formUnloaded() override { ++unloads; }
+  int unloads = 0;
+};
+
+TEST(Unloading, ViewsAreToldSoTheyLetGoOfTheForm) {
+  FormsFixture f;
+  Beobachter view;
+  f.eingabe().addObserver(&view);
+  f.forms.unload(f.eingabe());
+  EXPECT_EQ(view.unloads, 1);
+  Beobachter other;
+  f.eingabe().addObserver(&other);  // a new instance
+  f.forms.unloadAll();
+  EXPECT_EQ(other.unloads, 1);
+}
+
+}  // namespace
+}  // namespace kolm::forms::testing

@@ -10,6 +10,7 @@
 #include "core/io/codepage.h"
 #include "core/io/files.h"
 #include "core/tables/satzformat.h"
+#include "core/tables/werte_format.h"
 #include "core/tables/zahlen.h"
 #include "points/numbers/numbers.h"
 
@@ -60,56 +61,6 @@ void AlsLong(std::optional<double> wert, Long& feld) {
 void AlsSingle(std::optional<double> wert, Single& feld) {
   if (wert && std::fabs(*wert) <= FLT_MAX) feld = static_cast<Single>(*wert);
 }
-
-// ---- The value reader of ".ber" --------------------------------------------
-// Values end at a comma or a line end; a value in double quotes runs to the
-// closing quote, and what follows it up to the delimiter is skipped.
-class WerteLeser {
- public:
-  explicit WerteLeser(std::string_view text) : t_(text) {}
-
-  bool AmEnde() {
-    LeerraumUeberspringen();
-    return p_ >= t_.size();
-  }
-
-  std::optional<std::string_view> Naechster() {
-    if (AmEnde()) return std::nullopt;
-    std::string_view wert;
-    if (t_[p_] == '"') {
-      const std::size_t anfang = p_ + 1;
-      std::size_t ende = t_.find('"', anfang);
-      if (ende == std::string_view::npos) ende = t_.size();
-      wert = t_.substr(anfang, ende - anfang);
-      p_ = std::min(ende + 1, t_.size());
-      while (p_ < t_.size() && !Trenner(t_[p_])) ++p_;
-    } else {
-      const std::size_t anfang = p_;
-      while (p_ < t_.size() && !Trenner(t_[p_])) ++p_;
-      wert = t_.substr(anfang, p_ - anfang);
-      while (!wert.empty() && (wert.back() == ' ' || wert.back() == '\t')) wert.remove_suffix(1);
-    }
-    TrennerUeberspringen();
-    return wert;
-  }
-
- private:
-  static bool Trenner(char c) { return c == ',' || c == '\r' || c == '\n'; }
-  void LeerraumUeberspringen() {
-    while (p_ < t_.size() && (t_[p_] == ' ' || t_[p_] == '\t')) ++p_;
-  }
-  void TrennerUeberspringen() {
-    if (p_ >= t_.size()) return;
-    if (t_[p_] == ',' || t_[p_] == '\n') {
-      ++p_;
-    } else if (t_[p_] == '\r') {
-      ++p_;
-      if (p_ < t_.size() && t_[p_] == '\n') ++p_;
-    }
-  }
-  std::string_view t_;
-  std::size_t p_ = 0;
-};
 
 std::optional<double> Plain(std::optional<std::string_view> text) {
   if (!text) return std::nullopt;
@@ -369,15 +320,10 @@ bool SchreibeBerechnungen(TabellenKontext& k, std::string_view stamm) {
   if (TestStamm(stamm)) return false;
   Zustand& z = k.zustand;
   std::string text;
-  const auto zahl = [&text](double x) {
-    text += numbers::ZahlAlsText(x, ".");
-    text += "\r\n";
-  };
+  const auto zahl = [&text](double x) { ZahlWertAnhaengen(text, x); };
   for (const Berechnung& b : z.Berechnungen) {
     if (b.LVNr.IstLeer()) continue;
-    text += '"';
-    text += b.LVNr.Text();
-    text += "\"\r\n";
+    TextWertAnhaengen(text, b.LVNr.Text());
     zahl(b.Ergebnis);
     zahl(b.Flaeche);
     zahl(b.Farbe);

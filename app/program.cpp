@@ -8,7 +8,12 @@
 #include <QTimer>
 #include <ostream>
 
+#include "core/app/anwendung.h"
+#include "core/app/kern_verdrahtung.h"
 #include "core/main/help_forms.h"
+#include "core/start/einzelinstanz.h"
+#include "core/start/intro_form.h"
+#include "core/state/zustand.h"
 #include "core/main/main_form.h"
 #include "forms/macro/dialogs.h"
 #include "forms/macro/environment.h"
@@ -77,7 +82,10 @@ std::string FindProgrammVerzeichnis() {
 
 Program::Program(const Options& options, std::function<void(forms::Forms&)> extraForms)
     : options_(options), programmVerzeichnis_(FindProgrammVerzeichnis()) {
+  zustand_ = std::make_unique<core::Zustand>();
+  zustand_->ProgrammVerzeichnis = programmVerzeichnis_;
   forms_ = std::make_unique<forms::Forms>(services_);
+  anwendung_ = std::make_unique<core::Anwendung>(*zustand_, *forms_);
   parts_ = std::make_unique<Parts>(forms_.get());
   services_.messages = parts_->messages.get();
   services_.input = parts_->input.get();
@@ -94,6 +102,8 @@ Program::Program(const Options& options, std::function<void(forms::Forms&)> extr
   registerForms();
   if (extraForms) extraForms(*forms_);
   main_ = static_cast<core::MainForm*>(forms_->load("Main"));
+  anwendung_->setMain(main_);
+  core::KernBefehleVerbinden(*main_, *anwendung_);
   window_ = std::make_unique<shell::MainWindow>(*main_);
   host_ = std::make_unique<shell::QtHost>(window_->mdiArea(), window_.get());
   host_->registerWindow("Main", [this](forms::Form&) -> QWidget* { return window_.get(); });
@@ -124,12 +134,24 @@ Program::~Program() {
 
 void Program::registerForms() {
   core::RegisterMainForms(*forms_, programmVerzeichnis_ + "hilfe");
+  core::KernFormulareRegistrieren(*forms_, *anwendung_);
+  forms_->registerForm("Intro", [this](forms::Forms& f) {
+    return std::make_unique<core::IntroForm>(f, nullptr);
+  });
 }
 
 int Program::runInteractive() {
+  core::Einzelinstanz instanz(core::EinzelinstanzDatei());
+  if (!instanz.erhalten()) {
+    services_.messages->show({core::kMeldungZweiteInstanz, core::kTitelZweiteInstanz,
+                              forms::Buttons::OK, forms::Icon::Exclamation});
+    return 1;
+  }
+  if (options_.bildschirmfoto.empty()) forms_->show("Intro", true);  // returns as it closes
   forms_->show("Main");
   window_->show();
-  if (!options_.bildschirmfoto.empty()) writeScreenshotLater(options_.bildschirmfoto, options_.beendenNachBild);
+  if (!options_.bildschirmfoto.empty())
+    writeScreenshotLater(options_.bildschirmfoto, options_.beendenNachBild);
   return QApplication::exec();
 }
 

@@ -9,7 +9,9 @@
 #include "options.h"
 
 namespace kolm::core {
+class Anwendung;
 class MainForm;
+class Zustand;
 }
 namespace kolm::shell {
 class MainWindow;
@@ -32,6 +34,8 @@ class Program {
   forms::Forms& forms() { return *forms_; }
   forms::Services& services() { return services_; }
   core::MainForm& main() { return *main_; }
+  core::Zustand& zustand() { return *zustand_; }
+  core::Anwendung& anwendung() { return *anwendung_; }
   shell::MainWindow& window() { return *window_; }
   shell::QtHost& host() { return *host_; }
   // Folder of the program data (help, templates, demo project), ending in "/".
@@ -52,7 +56,9 @@ class Program {
   std::string programmVerzeichnis_;
   forms::Services services_;
   std::unique_ptr<Parts> parts_;
+  std::unique_ptr<core::Zustand> zustand_;
   std::unique_ptr<forms::Forms> forms_;
+  std::unique_ptr<core::Anwendung> anwendung_;
   core::MainForm* main_ = nullptr;
   std::unique_ptr<shell::MainWindow> window_;
   std::unique_ptr<shell::QtHost> host_;

@@ -131,6 +131,10 @@ bool Anwendung::SchliessenFragen() {
   return true;
 }
 
+void Anwendung::Beenden() {
+  for (auto& schreiben : beimBeenden_) schreiben();
+}
+
 // ---- The settings strip of Main -----------------------------------------------------
 
 void Anwendung::EinstellungGeaendert(forms::Control& c) {

@@ -1,5 +1,7 @@
 #pragma once
+#include <functional>
 #include <string>
+#include <vector>
 
 #include "core/state/zustand.h"
 #include "core/tables/tabellen_dateien.h"
@@ -68,6 +70,11 @@ class Anwendung {
   // True when the active row lies in 0 .. 500 and has a name.
   bool AktiveZeileBenannt() const;
 
+  // The end of the program once the question was answered: the settings
+  // and the catalogue are written. Writers are set by whoever owns them.
+  void Beenden();
+  void BeimBeenden(std::function<void()> schreiben) { beimBeenden_.push_back(std::move(schreiben)); }
+
   // ---- Auto-save
   // One tick of TimerAuto; the counter lives here.
   void TimerAutoTick();
@@ -88,6 +95,7 @@ class Anwendung {
   MainForm* main_ = nullptr;
   int punktZumAuffrischen_ = -1;
   int autoZaehler_ = 0;
+  std::vector<std::function<void()>> beimBeenden_;
 };
 
 }  // namespace kolm::core

@@ -505,7 +505,15 @@ void MainForm::showHelp(const std::string& topic) {
   if (auto* help = services().help) help->showTopic(topic);
 }
 
+void MainForm::onClosing(std::function<bool()> question, std::function<void()> closing) {
+  closeQuestion_ = std::move(question);
+  closing_ = std::move(closing);
+}
+
+bool MainForm::QueryUnload() { return !closeQuestion_ || closeQuestion_(); }
+
 void MainForm::Unload() {
+  if (closing_) closing_();
   if (auto* d = services().desktop) d->quit();
 }
 

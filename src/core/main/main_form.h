@@ -52,11 +52,16 @@ class MainForm : public forms::Form {
   // its own entries then.
   void onSettingChanged(std::function<void(forms::Control&)> listener);
 
+  // Asked before the program closes: false keeps it open. Runs once the
+  // question was answered: writes what must survive the session.
+  void onClosing(std::function<bool()> question, std::function<void()> closing);
+
   // Third-coordinate flags as the settings strip shows them.
   bool dritte() const;
   bool m31() const;
 
  protected:
+  bool QueryUnload() override;
   void Unload() override;
   bool storesPlacement() const override { return false; }
 
@@ -80,6 +85,8 @@ class MainForm : public forms::Form {
   std::vector<std::string> submenus_;                               // name keys
   std::vector<std::string> checkable_;                              // name keys
   std::function<void(forms::Control&)> settingListener_;
+  std::function<bool()> closeQuestion_;
+  std::function<void()> closing_;
 };
 
 // Writes the status line into LabelInfo of the loaded Main. Before Main is

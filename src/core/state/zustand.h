@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "core/records/records.h"
+#include "core/settings/einstellungen.h"
 #include "forms/drawing.h"
 
 namespace kolm::core {
@@ -82,6 +83,7 @@ class Zustand {
   std::string ProjektName;
   std::string ProjektVerzeichnis;  // ends in a separator
   std::string ProjektIni;
+  kolm::core::Einstellungen Einstellungen;  // the other values of the settings files
 
   // ---- Points ---------------------------------------------------------------
   // Sets AnzahlPunkte (clamped) and sizes Punkte to 0 .. AnzahlPunkte,

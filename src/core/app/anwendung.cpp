@@ -1,6 +1,9 @@
 #include "core/app/anwendung.h"
 
 #include "core/main/main_form.h"
+#include "core/settings/einstellungen_datei.h"
+
+#include <cstdlib>
 #include "points/numbers/konstanten.h"
 
 namespace kolm::core {
@@ -11,7 +14,9 @@ bool Blank(const std::string& text) { return text.find_first_not_of(' ') == std:
 }  // namespace
 
 Anwendung::Anwendung(Zustand& zustand, forms::Forms& forms)
-    : zustand_(zustand), forms_(forms), kontext_(zustand, forms.services()) {}
+    : zustand_(zustand), forms_(forms), kontext_(zustand, forms.services()) {
+  zustand_.ProgrammIni = KolmIniPfad([](const char* name) { return std::getenv(name); });
+}
 
 void Anwendung::setMain(MainForm* main) {
   main_ = main;
@@ -131,9 +136,6 @@ bool Anwendung::SchliessenFragen() {
   return true;
 }
 
-void Anwendung::Beenden() {
-  for (auto& schreiben : beimBeenden_) schreiben();
-}
 
 // ---- The settings strip of Main -----------------------------------------------------
 

@@ -10,6 +10,7 @@
 namespace kolm::core {
 
 class MainForm;
+struct Einstellungen;
 
 // The running program's core: the state, the loaded forms and the steps
 // that hold them together — refreshing open dialogs, opening and saving the
@@ -70,8 +71,33 @@ class Anwendung {
   // True when the active row lies in 0 .. 500 and has a name.
   bool AktiveZeileBenannt() const;
 
+  // ---- Start, projects, end
+  // The load of Main: clear every table, read the settings with the project
+  // (the parameter, else the last project, else the demo project), read the
+  // catalogue, go to the project folder, load the active table, check the
+  // LV database. False when the parameter names no usable folder: the
+  // program ends then.
+  bool Starten(const std::string& parameter);
+  // Opens the project in `verzeichnis` as the OK of ProjektÖffnen does: the
+  // catalogue of the project left is written first.
+  void ProjektOeffnen(const std::string& verzeichnis);
+  // name = folder in "projects" of Kolm.ini, and "last project".
+  void ProjektEintragen(const std::string& name, const std::string& verzeichnis);
+  void KatalogSpeichern();
+  // Title "Kolm: " + ProjektName.
+  void TitelSetzen();
+  // The demo project's folder in the program data.
+  std::string DemoVerzeichnis() const;
+
+  // What the start and the projects need of others, set by the program: the
+  // LV database of a project folder (create: make it when missing), and the
+  // position of the main window.
+  std::function<void(const std::string& projektVerzeichnis, bool anlegen)> lvPruefen;
+  std::function<void(const Einstellungen&)> hauptfensterAnwenden;
+  std::function<void(Einstellungen&)> hauptfensterMerken;
+
   // The end of the program once the question was answered: the settings
-  // and the catalogue are written. Writers are set by whoever owns them.
+  // and the catalogue are written.
   void Beenden();
   void BeimBeenden(std::function<void()> schreiben) { beimBeenden_.push_back(std::move(schreiben)); }
 
@@ -87,6 +113,8 @@ class Anwendung {
 
  private:
   void EinstellungGeaendert(forms::Control& control);
+  void EinstellungenEinlesen(bool mitProjektwahl, const std::string& parameter, bool& parameterFehlt);
+  void AktiveTabelleEinlesen();
   void Trigger(const char* form, const char* befehl);
 
   Zustand& zustand_;

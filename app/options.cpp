@@ -3,7 +3,7 @@
 namespace kolm::app {
 
 const char* Aufruf() {
-  return "Aufruf: kolm [PROJEKTVERZEICHNIS]\n"
+  return "Aufruf: kolm [--demo] [PROJEKTVERZEICHNIS]\n"
          "       kolm --makro DATEI [PROJEKTVERZEICHNIS]\n"
          "       kolm --bildschirmfoto DATEI.png [--beenden-nach-bild] [PROJEKTVERZEICHNIS]";
 }
@@ -23,6 +23,8 @@ Options ParseArguments(const std::vector<std::string>& args) {
       value(o.makro);
     } else if (a == "--bildschirmfoto") {
       value(o.bildschirmfoto);
+    } else if (a == "--demo") {
+      o.demo = true;
     } else if (a == "--beenden-nach-bild") {
       o.beendenNachBild = true;
     } else if (a.size() > 1 && a[0] == '-' && a[1] == '-') {

@@ -10,6 +10,7 @@ struct Options {
   std::string makro;           // --makro DATEI: run this macro headless and end
   std::string bildschirmfoto;  // --bildschirmfoto DATEI: PNG of the main window once shown
   bool beendenNachBild = false;  // --beenden-nach-bild: end after writing that picture
+  bool demo = false;           // --demo: open the demo project whatever was open last
   std::string fehler;          // a German message when the command line is wrong
 };
 

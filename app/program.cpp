@@ -2,6 +2,8 @@
 
 #include <QApplication>
 #include <QMdiArea>
+#include <QScreen>
+#include <QWindow>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFileInfo>
@@ -13,7 +15,10 @@
 #include "core/main/help_forms.h"
 #include "core/start/einzelinstanz.h"
 #include "core/start/intro_form.h"
+#include "core/settings/einstellungen.h"
+#include "core/settings/ini_fenster.h"
 #include "core/state/zustand.h"
+#include "quantities/lv/lv_datenbank.h"
 #include "core/main/main_form.h"
 #include "forms/macro/dialogs.h"
 #include "forms/macro/environment.h"
@@ -30,8 +35,30 @@ namespace {
 // What a macro reaches of the running program beyond its forms.
 class ProgramMacroEnvironment final : public forms::macro::BasicMacroEnvironment {
  public:
-  ProgramMacroEnvironment(forms::Forms& forms, shell::QtHost& host)
-      : BasicMacroEnvironment(forms), host_(host) {}
+  ProgramMacroEnvironment(forms::Forms& forms, shell::QtHost& host, core::Anwendung& anwendung)
+      : BasicMacroEnvironment(forms), host_(host), anwendung_(anwendung) {}
+
+  bool openProject(const std::string& dir, std::string& error) override {
+    std::string ordner = dir;
+    if (!ordner.empty() && ordner.back() != '/') ordner += '/';
+    if (!QFileInfo::exists(QString::fromStdString(ordner + "Kolmproj.ini"))) {
+      error = "Kein Projekt in diesem Verzeichnis vorhanden!";
+      return false;
+    }
+    anwendung_.ProjektOeffnen(ordner);
+    return true;
+  }
+
+  std::optional<std::array<double, 3>> point(int n, bool& empty, std::string& error) override {
+    const core::Zustand& z = anwendung_.zustand();
+    if (n < 0 || n >= static_cast<int>(z.Punkte.size())) {
+      error = "Punktnummer " + std::to_string(n) + " liegt außerhalb der Tabelle";
+      return std::nullopt;
+    }
+    empty = z.PunktLeer(n);
+    const core::Punkt& p = z.Punkte[n];
+    return std::array<double, 3>{p.A, p.B, p.C};
+  }
 
   void processEvents(int ms) override {
     QElapsedTimer clock;
@@ -48,7 +75,17 @@ class ProgramMacroEnvironment final : public forms::macro::BasicMacroEnvironment
 
  private:
   shell::QtHost& host_;
+  core::Anwendung& anwendung_;
 };
+
+// The LV database of a project folder: made from the template when asked
+// and missing, then brought up to date.
+void LVPruefen(core::Anwendung& anwendung, const std::string& projekt, bool anlegen) {
+  const std::string programm = anwendung.zustand().ProgrammVerzeichnis;
+  if (anlegen && !QFileInfo::exists(QString::fromStdString(quantities::LVDatei(projekt))))
+    quantities::LVVorlageKopieren(projekt, programm, anwendung.dienste().messages);
+  quantities::LVAktualisieren(projekt, anwendung.dienste().status);
+}
 
 }  // namespace
 
@@ -65,7 +102,7 @@ struct Program::Parts {
   std::unique_ptr<shell::QtPrinter> printer;
   shell::QtSerialPorts serial;
   shell::QtImageCodec images;
-  forms::MemoryPlacements placements;  // kept in the settings file once that exists
+  std::unique_ptr<core::IniFenster> placements;
   core::MainStatusLine status;
   core::FormHelp help;
   std::unique_ptr<shell::QtDesktop> desktop;
@@ -95,7 +132,8 @@ Program::Program(const Options& options, std::function<void(forms::Forms&)> extr
   services_.measurer = &parts_->measurer;
   services_.serial = &parts_->serial;
   services_.images = &parts_->images;
-  services_.placements = &parts_->placements;
+  parts_->placements = std::make_unique<core::IniFenster>(*zustand_);
+  services_.placements = parts_->placements.get();
   services_.status = &parts_->status;
   services_.help = &parts_->help;
 
@@ -120,8 +158,43 @@ Program::Program(const Options& options, std::function<void(forms::Forms&)> extr
   services_.input = parts_->input.get();
   services_.files = parts_->files.get();
 
-  const std::string project = options_.projekt.empty() ? "Demo Projekt" : QFileInfo(QString::fromStdString(options_.projekt)).fileName().toStdString();
-  main_->setProjectName(project);
+  wireCore();
+}
+
+void Program::wireCore() {
+  anwendung_->lvPruefen = [this](const std::string& projekt, bool anlegen) {
+    LVPruefen(*anwendung_, projekt, anlegen);
+  };
+  anwendung_->hauptfensterAnwenden = [this](const core::Einstellungen& e) {
+    if (e.WindowState == 2) {
+      window_->setWindowState(Qt::WindowMaximized);
+    } else if (e.Width > 100 && e.Height > 100) {
+      window_->setGeometry(e.Left, e.Top, e.Width, e.Height);
+    }
+  };
+  anwendung_->hauptfensterMerken = [this](core::Einstellungen& e) {
+    e.WindowState = window_->isMaximized() ? 2 : window_->isMinimized() ? 1 : 0;
+    if (e.WindowState == 0) {
+      const QRect g = window_->geometry();
+      e.Left = g.x();
+      e.Top = g.y();
+      e.Width = g.width();
+      e.Height = g.height();
+    }
+  };
+  core::IniFenster& fenster = *parts_->placements;
+  fenster.setBildschirm([this]() -> std::optional<core::Fensterflaeche> {
+    const QScreen* screen = window_->screen();
+    if (!screen) return std::nullopt;
+    const QRect r = screen->availableGeometry();
+    return core::Fensterflaeche{r.x(), r.y(), r.width(), r.height()};
+  });
+  fenster.setHauptflaeche([]() -> std::optional<core::Fensterflaeche> {
+    return core::Fensterflaeche{0, 0, 0, 0};  // children stand in the client area's own coordinates
+  });
+  fenster.setNachSchreiben([this] {
+    if (main_ && main_->loaded()) main_->control("TimerDropWait").setEnabled(true);
+  });
 }
 
 Program::~Program() {
@@ -148,6 +221,7 @@ int Program::runInteractive() {
     return 1;
   }
   if (options_.bildschirmfoto.empty()) forms_->show("Intro", true);  // returns as it closes
+  if (!anwendung_->Starten(options_.projekt, options_.demo)) return 1;
   forms_->show("Main");
   window_->show();
   if (!options_.bildschirmfoto.empty())
@@ -166,13 +240,16 @@ void Program::writeScreenshotLater(const std::string& path, bool thenQuit) {
 
 int Program::runMacro(const std::string& file, std::ostream& out) {
   host_->setTimersEnabled(false);
+  forms::macro::MacroDialogs dialogs;
+  ProgramMacroEnvironment environment(*forms_, *host_, *anwendung_);
+  forms::macro::MacroRunner runner(*forms_, dialogs, environment, out);
+  if (!anwendung_->Starten(options_.projekt, options_.demo)) {
+    out << file << ": Fehler: das Projekt konnte nicht geöffnet werden" << std::endl;
+    return forms::macro::kCannotRun;
+  }
   forms_->show("Main");
   window_->show();
   QCoreApplication::processEvents();
-
-  forms::macro::MacroDialogs dialogs;
-  ProgramMacroEnvironment environment(*forms_, *host_);
-  forms::macro::MacroRunner runner(*forms_, dialogs, environment, out);
   const int status = runner.runFile(file);
   forms_->unloadAll();
   forms_->collect();

@@ -50,6 +50,7 @@ class Program {
  private:
   struct Parts;
   void registerForms();
+  void wireCore();
   void writeScreenshotLater(const std::string& path, bool thenQuit);
 
   Options options_;

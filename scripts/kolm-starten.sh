@@ -29,11 +29,8 @@ if [[ ! -x $programm ]]; then
   exit 1
 fi
 
-argumente=()
-demo="$build/data/Demo Projekt"
-if [[ -d $demo ]]; then
-  argumente=("$demo")
-fi
+# The demo project of the program data, whatever project was open last.
+argumente=(--demo)
 
 if [[ -n ${DISPLAY:-} || -n ${WAYLAND_DISPLAY:-} ]]; then
   echo "Kolm startet: $programm ${argumente[*]}"

@@ -15,6 +15,8 @@ TEST(CommandLine, ProjectMacroAndScreenshotAreRead) {
   EXPECT_EQ(o.bildschirmfoto, "x.png");
   EXPECT_TRUE(o.beendenNachBild);
   EXPECT_TRUE(o.projekt.empty());
+  EXPECT_FALSE(o.demo);
+  EXPECT_TRUE(ParseArguments({"--demo"}).demo);
 }
 
 TEST(CommandLine, MistakesAreNamedInGerman) {

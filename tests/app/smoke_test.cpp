@@ -5,7 +5,12 @@
 #include <QWidget>
 
 #include "forms/scripted.h"
+#include <filesystem>
+#include <fstream>
+
+#include "core/app/anwendung.h"
 #include "core/main/main_form.h"
+#include "shell/main_window.h"
 #include "program.h"
 #include "shell/qt_host.h"
 
@@ -56,10 +61,24 @@ TEST(Smoke, EveryRegisteredFormOpensAndClosesWithoutAnError) {
 
 TEST(Smoke, TheMainWindowCarriesTheProjectInItsTitle) {
   App();
-  Options options;
-  options.projekt = "/tmp/Baustelle B12";
-  Program program(options);
-  EXPECT_EQ(program.main().caption(), "Kolm: Baustelle B12");
+  namespace fs = std::filesystem;
+  const fs::path dir = fs::temp_directory_path() / ("kolm-smoke-" + std::to_string(::getpid()));
+  fs::create_directories(dir / "B12" / "KOLM");
+  {
+    std::ofstream ini(dir / "B12" / "KOLM" / "Kolmproj.ini");
+    ini << "[Project]\r\nName=Baustelle B12\r\n";
+  }
+  ::setenv("KOLM_INI", (dir / "Kolm.ini").c_str(), 1);
+  {
+    forms::ScriptedMessages messages;
+    Program program(Options{});
+    program.services().messages = &messages;
+    ASSERT_TRUE(program.anwendung().Starten((dir / "B12").string()));
+    EXPECT_EQ(program.main().caption(), "Kolm: Baustelle B12");
+    EXPECT_EQ(program.window().windowTitle().toStdString(), "Kolm: Baustelle B12");
+  }
+  ::unsetenv("KOLM_INI");
+  fs::remove_all(dir);
 }
 
 }  // namespace

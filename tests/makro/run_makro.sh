@@ -7,6 +7,8 @@
 #   # erwartet: N      the program ends with exit status N (default 0)
 #   # ausgabe: TEXT    the program's output contains TEXT (any number of lines)
 #   # projekt: demo    the project folder starts as a copy of the demo project
+# The folder given to the program is $work/projekt; as with the command-line
+# parameter, the project itself is its subfolder KOLM.
 # A sanitizer report in the output fails the scenario whatever the status.
 set -u
 kolm=$(realpath -- "$1") scenario=$(realpath -- "$2") data=$3
@@ -31,7 +33,8 @@ while IFS= read -r line || [[ -n $line ]]; do
     outputs+=("${BASH_REMATCH[1]}")
   elif [[ $line =~ ^#[[:space:]]*projekt:[[:space:]]*demo[[:space:]]*$ ]]; then
     if [[ -d "$data/Demo Projekt" ]]; then
-      cp -R "$data/Demo Projekt/." "$work/projekt/"
+      mkdir -p "$work/projekt/KOLM"
+      cp -R "$data/Demo Projekt/." "$work/projekt/KOLM/"
     fi
   fi
 done <"$scenario"

@@ -77,7 +77,8 @@ class Anwendung {
   // catalogue, go to the project folder, load the active table, check the
   // LV database. False when the parameter names no usable folder: the
   // program ends then.
-  bool Starten(const std::string& parameter);
+  // demo: open the demo project whatever the last one was.
+  bool Starten(const std::string& parameter, bool demo = false);
   // Opens the project in `verzeichnis` as the OK of ProjektÖffnen does: the
   // catalogue of the project left is written first.
   void ProjektOeffnen(const std::string& verzeichnis);
@@ -113,7 +114,8 @@ class Anwendung {
 
  private:
   void EinstellungGeaendert(forms::Control& control);
-  void EinstellungenEinlesen(bool mitProjektwahl, const std::string& parameter, bool& parameterFehlt);
+  void EinstellungenEinlesen(bool mitProjektwahl, const std::string& parameter, bool demo,
+                             bool& parameterFehlt);
   void AktiveTabelleEinlesen();
   void Trigger(const char* form, const char* befehl);
 

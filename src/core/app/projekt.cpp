@@ -44,7 +44,7 @@ void Anwendung::TitelSetzen() {
   if (main_) main_->setProjectName(zustand_.ProjektName);
 }
 
-void Anwendung::EinstellungenEinlesen(bool mitProjektwahl, const std::string& parameter,
+void Anwendung::EinstellungenEinlesen(bool mitProjektwahl, const std::string& parameter, bool demo,
                                       bool& parameterFehlt) {
   EinstellungsKontext k(zustand_, dienste());
   k.hauptfensterAnwenden = hauptfensterAnwenden;
@@ -63,6 +63,9 @@ void Anwendung::EinstellungenEinlesen(bool mitProjektwahl, const std::string& pa
           return;
         }
         wahl = *gefunden;
+      } else if (demo) {
+        wahl = LetztesProjektAufloesen("Demo Projekt", DemoVerzeichnis(), DemoVerzeichnis(), fs,
+                                       dienste().messages);
       } else {
         std::optional<std::string> verzeichnis;
         for (const ProjektEintrag& e : p.Projekte)
@@ -91,13 +94,13 @@ void Anwendung::AktiveTabelleEinlesen() {
   HauptfensterAusAktiverZeile();
 }
 
-bool Anwendung::Starten(const std::string& parameter) {
+bool Anwendung::Starten(const std::string& parameter, bool demo) {
   zustand_.Laden = Wahr;
   zustand_.WinkelFaktor = numbers::WinkelFaktorFuer(0);
   zustand_.AllesLeeren();
 
   bool parameterFehlt = false;
-  EinstellungenEinlesen(true, parameter, parameterFehlt);
+  EinstellungenEinlesen(true, parameter, demo, parameterFehlt);
   if (parameterFehlt) return false;
   zustand_.Laden = Wahr;  // reading the settings cleared it
   TitelSetzen();
@@ -149,7 +152,7 @@ void Anwendung::ProjektOeffnen(const std::string& verzeichnis) {
   zustand_.Laden = Wahr;
   zustand_.AllesLeeren();
   bool unbenutzt = false;
-  EinstellungenEinlesen(false, "", unbenutzt);
+  EinstellungenEinlesen(false, "", false, unbenutzt);
   zustand_.Laden = Wahr;
   KatalogKontext katalog(zustand_, dienste());
   KatalogLesen(katalog);

@@ -1,6 +1,7 @@
 #include "core/app/anwendung.h"
 
 #include "core/main/main_form.h"
+#include "core/settings/einstellungen.h"
 #include "core/settings/einstellungen_datei.h"
 
 #include <cstdlib>
@@ -144,6 +145,7 @@ void Anwendung::EinstellungGeaendert(forms::Control& c) {
   const std::string& name = c.name();
   if (name == "ComboWinkelEinheit") {
     zustand_.WinkelFaktor = numbers::WinkelFaktorFuer(c.listIndex());
+    if (c.listIndex() >= 0) zustand_.Einstellungen.Winkeleinheit = static_cast<Integer>(c.listIndex());
     if (!zustand_.Laden) NachTabellenwechselAuffrischen();
     return;
   }

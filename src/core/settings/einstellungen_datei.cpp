@@ -1,4 +1,5 @@
 #include "core/settings/einstellungen_datei.h"
+#include "points/numbers/konstanten.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -15,7 +16,6 @@ namespace {
 namespace fs = std::filesystem;
 using profile::ProfileFile;
 
-constexpr double kPi = 3.141592654;  // the program's own value of Pi
 constexpr std::size_t kPuffer = profile::kSettingsBuffer;
 constexpr std::size_t kSkinPuffer = 250;
 constexpr std::size_t kProjektPuffer = 100;
@@ -39,10 +39,6 @@ constexpr const char* kKorrekturen = "Korrekturen";
 constexpr const char* kKurzBez = "Punkt-Kurzbezeichnungen";
 constexpr const char* kDarstellung = "Punkt-Darstellung";
 constexpr const char* kBeschriftung = "Punkt-Beschriftung";
-
-double WinkelFaktorFuer(int einheit) {
-  return einheit == 1 ? kPi / 180 : einheit == 2 ? 1.0 : kPi / 200;
-}
 
 std::string Allgemein(double x) { return numbers::ZahlAlsText(x, "."); }
 
@@ -320,7 +316,7 @@ void ProjektEinstellungenLesen(EinstellungsKontext& k) {
 
   // An entry the angle unit list does not have leaves the unit as it was.
   if (winkeleinheit >= 0 && winkeleinheit <= 2) e.Winkeleinheit = static_cast<Integer>(winkeleinheit);
-  z.WinkelFaktor = WinkelFaktorFuer(e.Winkeleinheit);
+  z.WinkelFaktor = numbers::WinkelFaktorFuer(e.Winkeleinheit);
   if (k.winkeleinheitAnwenden) k.winkeleinheitAnwenden(e.Winkeleinheit);
 
   // Rounded as an Integer takes it, clamped before any conversion.

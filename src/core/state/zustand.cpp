@@ -1,11 +1,11 @@
 #include "core/state/zustand.h"
+#include "points/numbers/konstanten.h"
 
 #include <algorithm>
 
 namespace kolm::core {
 
 namespace {
-constexpr double kPi = 3.141592654;  // the program's own value of Pi
 
 template <typename T>
 bool InBereich(long long n, const std::vector<T>& v) {
@@ -45,7 +45,7 @@ Zustand::Zustand()
       BildSpeicher(AnzahlBilder),
       PunktFarben(AnzahlPunktFarben),
       LinienFarben(AnzahlLinienFarben),
-      WinkelFaktor(kPi / 200) {
+      WinkelFaktor(numbers::WinkelFaktorFuer(0)) {
   StandardVersatzBerechnen();
   AllesLeeren();
   KurzbezeichnungenLeeren();

@@ -1,0 +1,48 @@
+#include "calc/kernel/winkel.h"
+
+#include <cmath>
+
+#include "points/numbers/konstanten.h"
+
+namespace kolm::kernel {
+
+using numbers::Pi;
+
+double Richtung(double y, double x) {
+  if (y != 0) {
+    if (x == 0) return y > 0 ? Pi / 2 : -Pi / 2;
+    if (x > 0) return std::atan(y / x);
+    return y < 0 ? std::atan(y / x) - Pi : std::atan(y / x) + Pi;
+  }
+  return x < 0 ? Pi : 0;
+}
+
+double WinkelNormieren(double w) {
+  const double t = w / 2 / Pi;
+  const double bruch = t - std::floor(t);
+  return bruch * 2 * Pi;
+}
+
+void PolarZuRechtwinklig(double& a, double& b, const Winkelsystem& s) {
+  const double e = a;
+  double p = b * s.winkelFaktor;
+  if (s.falschdrehend) p = Pi / 2 - p;
+  if (s.m31) {
+    a = e * std::sin(p);
+    b = e * std::cos(p);
+  } else {
+    a = e * std::cos(p);
+    b = e * std::sin(p);
+  }
+}
+
+void RechtwinkligZuPolar(double& a, double& b, const Winkelsystem& s) {
+  const double e = std::pow(a * a + b * b, 0.5);
+  double p = s.m31 ? Richtung(a, b) : Richtung(b, a);
+  if (s.falschdrehend) p = Pi / 2 - p;
+  p = WinkelNormieren(p);
+  a = e;
+  b = p / s.winkelFaktor;
+}
+
+}  // namespace kolm::kernel

@@ -79,11 +79,17 @@ Form* Forms::show(std::string_view name, bool modal) {
   return form;
 }
 
+void Forms::setActive(Form* form) {
+  if (form && !form->loaded_) return;
+  active_ = form;
+}
+
 void Forms::show(Form& form, bool modal) {
   if (!form.loaded_) return;
   const bool wasShown = form.shown_;
   form.shown_ = true;
   form.modal_ = modal;
+  active_ = &form;
   if (host_) host_->formShown(form);
   if (!wasShown || modal) form.Activate();
   if (modal && host_ && form.loaded_ && form.shown_) host_->runModal(form);
@@ -92,6 +98,7 @@ void Forms::show(Form& form, bool modal) {
 void Forms::hide(Form& form) {
   if (!form.shown_) return;
   form.shown_ = false;
+  if (active_ == &form) fallBackActive(&form);
   if (host_) host_->formHidden(form);
 }
 
@@ -105,6 +112,7 @@ bool Forms::unload(Form& form) {
   form.loaded_ = false;
   form.shown_ = false;
   form.notifyUnloaded();
+  if (active_ == &form) fallBackActive(&form);
   if (host_) host_->formUnloaded(form);
   auto it = std::find_if(loaded_.begin(), loaded_.end(),
                          [&](const std::unique_ptr<Form>& f) { return f.get() == &form; });
@@ -126,6 +134,7 @@ void Forms::unloadAll() {
       form.loaded_ = false;
       form.shown_ = false;
       form.notifyUnloaded();
+      if (active_ == &form) fallBackActive(&form);
       if (host_) host_->formUnloaded(form);
     }
     if (!loaded_.empty() && loaded_.back().get() == &form) {
@@ -134,6 +143,15 @@ void Forms::unloadAll() {
     }
     rebuildView();
   }
+}
+
+void Forms::fallBackActive(const Form* leaving) {
+  active_ = nullptr;
+  for (auto it = loaded_.rbegin(); it != loaded_.rend(); ++it)
+    if (it->get() != leaving && (*it)->loaded_ && (*it)->shown_) {
+      active_ = it->get();
+      return;
+    }
 }
 
 void Forms::collect() { unloaded_.clear(); }

@@ -60,6 +60,12 @@ class Forms {
   // Destroys unloaded forms; call where no handler of theirs runs.
   void collect();
 
+  // The form the user works in: the one shown last, or the child window the
+  // shell reports as activated. Falls back to the last shown form when it
+  // unloads; nullptr when none is shown.
+  Form* active() const { return active_; }
+  void setActive(Form* form);
+
   // Triggers the hidden command of a loaded form; nothing when it is not loaded.
   void trigger(std::string_view formName, std::string_view command);
 
@@ -69,6 +75,7 @@ class Forms {
     FormFactory factory;
   };
   void rebuildView();
+  void fallBackActive(const Form* leaving);
 
   Services& services_;
   FormHost* host_ = nullptr;
@@ -76,6 +83,7 @@ class Forms {
   std::vector<std::unique_ptr<Form>> loaded_;
   std::vector<Form*> loadedView_;
   std::vector<std::unique_ptr<Form>> unloaded_;
+  Form* active_ = nullptr;
 };
 
 }  // namespace kolm::forms

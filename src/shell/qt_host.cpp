@@ -80,7 +80,15 @@ struct QtHost::Entry {
 };
 
 QtHost::QtHost(QMdiArea* area, QWidget* frame, QObject* parent)
-    : QObject(parent), area_(area), frame_(frame) {}
+    : QObject(parent), area_(area), frame_(frame) {
+  // The menus of the frame act on the child window the user works in.
+  if (area_)
+    connect(area_, &QMdiArea::subWindowActivated, this, [this](QMdiSubWindow* sub) {
+      if (!sub) return;
+      for (auto& [form, entry] : entries_)
+        if (entry->window == sub && form->loaded()) form->forms().setActive(form);
+    });
+}
 
 QtHost::~QtHost() {
   for (auto& [form, entry] : entries_) {

@@ -161,3 +161,27 @@ TEST(Unloading, ViewsAreToldSoTheyLetGoOfTheForm) {
 
 }  // namespace
 }  // namespace kolm::forms::testing
+
+namespace kolm::forms::testing {
+namespace {
+
+TEST(ActiveForm, IsTheOneShownLastAndFallsBackWhenItCloses) {
+  FormsFixture f;
+  f.forms.registerForm("Zweite", [](Forms& fs) {
+    auto form = std::make_unique<Form>(fs, "Zweite", "Zweite");
+    return form;
+  });
+  EXPECT_EQ(f.forms.active(), nullptr);
+  Form* eingabe = f.forms.show("Eingabe");
+  Form* zweite = f.forms.show("Zweite");
+  EXPECT_EQ(f.forms.active(), zweite);
+  f.forms.setActive(eingabe);  // the user clicked the other window
+  EXPECT_EQ(f.forms.active(), eingabe);
+  f.forms.unload(*eingabe);
+  EXPECT_EQ(f.forms.active(), zweite);
+  f.forms.hide(*zweite);
+  EXPECT_EQ(f.forms.active(), nullptr) << "a hidden form is not worked in";
+}
+
+}  // namespace
+}  // namespace kolm::forms::testing

@@ -91,3 +91,35 @@ TEST(PolarWrappers, UseTheActiveTablesSettings) {
 
 }  // namespace
 }  // namespace kolm::points
+
+#include "points/zellen_eingabe.h"
+
+namespace kolm::points {
+namespace {
+
+TEST(ZellenEingabe, BuildsANumberKeyByKey) {
+  std::string t;
+  for (char c : std::string("12,5.3"))
+    ZellenTaste(t, c);
+  EXPECT_EQ(t, "12,53") << "a second decimal sign is not taken";
+  EXPECT_TRUE(ZellenTaste(t, '-'));
+  EXPECT_EQ(t, "-12,53");
+  ZellenTaste(t, '-');
+  EXPECT_EQ(t, "12,53") << "minus toggles";
+  EXPECT_FALSE(ZellenTaste(t, 'x'));
+  EXPECT_FALSE(ZellenTaste(t, ' '));
+  ZellenTaste(t, 8);
+  EXPECT_EQ(t, "12,5");
+  std::string leer;
+  EXPECT_FALSE(ZellenTaste(leer, 8));
+}
+
+TEST(ZellenEingabe, AnEditedCellShowsWholeNumbersWithoutDecimals) {
+  EXPECT_EQ(ZellenBearbeitungsText(240), "240");
+  EXPECT_EQ(ZellenBearbeitungsText(0), "") << "a whole 0 shows empty";
+  EXPECT_EQ(ZellenBearbeitungsText(-12.125), "-12.125");
+  EXPECT_EQ(ZellenBearbeitungsText(1.23456789), "1.234568");
+}
+
+}  // namespace
+}  // namespace kolm::points

@@ -1,6 +1,10 @@
 #pragma once
 #include <functional>
+#include <map>
+#include <memory>
 #include <string>
+#include <typeindex>
+#include <typeinfo>
 #include <vector>
 
 #include "core/state/zustand.h"
@@ -112,6 +116,17 @@ class Anwendung {
 
   void Status(const std::string& text);
 
+  // ---- State that a module above the core keeps for the life of the
+  // program (the points' overwrite history, later the BlueBox): one object
+  // per type, made on first use, gone with the Anwendung. The core names no
+  // type of those modules.
+  template <class T>
+  T& modulZustand() {
+    std::shared_ptr<void>& slot = module_[std::type_index(typeid(T))];
+    if (!slot) slot = std::make_shared<T>();
+    return *static_cast<T*>(slot.get());
+  }
+
  private:
   void EinstellungGeaendert(forms::Control& control);
   void EinstellungenEinlesen(bool mitProjektwahl, const std::string& parameter, bool demo,
@@ -126,6 +141,7 @@ class Anwendung {
   int punktZumAuffrischen_ = -1;
   int autoZaehler_ = 0;
   std::vector<std::function<void()>> beimBeenden_;
+  std::map<std::type_index, std::shared_ptr<void>> module_;
 };
 
 }  // namespace kolm::core

@@ -2,6 +2,7 @@
 
 #include "core/app/anwendung.h"
 #include "core/main/main_form.h"
+#include "points/eingabe/bearbeiten.h"
 #include "points/eingabe/punkteingabe.h"
 
 namespace kolm::points {
@@ -14,6 +15,8 @@ void PunktEingabeRegistrieren(forms::Forms& forms, core::Anwendung& anwendung) {
   });
 }
 
-void PunktEingabeVerbinden(core::MainForm&, core::Anwendung&) {}
+void PunktEingabeVerbinden(core::MainForm& main, core::Anwendung& anwendung) {
+  BearbeitenVerbinden(main, anwendung);
+}
 
 }  // namespace kolm::points

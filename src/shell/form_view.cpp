@@ -598,7 +598,11 @@ void FormWidget::mirror(Item& item, Property property, int row, int col) {
   }
   if (item.special) return;
   switch (property) {
-    case Property::Caption: mirrorCaption(item); break;
+    case Property::Caption:
+      mirrorCaption(item);
+      // Progress texts change while long work holds the event loop: paint now.
+      if (QApplication::overrideCursor() && w->isVisible()) w->repaint();
+      break;
     case Property::Text: mirrorText(item); break;
     case Property::TextSelection: mirrorSelection(item); break;
     case Property::Value:
@@ -624,7 +628,10 @@ void FormWidget::mirror(Item& item, Property property, int row, int col) {
     case Property::GridCursor: mirrorGridCursor(item); break;
     case Property::GridWidths: mirrorGridWidths(item); break;
     case Property::Picture:
-      if (auto* picture = qobject_cast<PictureWidget*>(w)) picture->update();
+      if (auto* picture = qobject_cast<PictureWidget*>(w)) {
+        if (QApplication::overrideCursor() && picture->isVisible()) picture->repaint();
+        else picture->update();
+      }
       break;
     case Property::Default:
       if (auto* button = qobject_cast<QPushButton*>(w)) button->setDefault(c.isDefault());

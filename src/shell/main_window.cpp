@@ -1,5 +1,7 @@
 #include "shell/main_window.h"
 
+#include <QApplication>
+
 #include <QAction>
 #include <QCheckBox>
 #include <QCloseEvent>
@@ -289,6 +291,8 @@ void MainWindow::sync(Control& c) {
   }
   if (c.name() == "LabelInfo") {
     status_->setText(LabelText(c.captionText()));
+    // Status texts of long work (loading, saving) show while it runs.
+    if (QApplication::overrideCursor() && status_->isVisible()) status_->repaint();
     return;
   }
   if (auto a = actions_.find(&c); a != actions_.end()) {

@@ -33,6 +33,7 @@ bool PunkteListeDrucken(forms::Services& dienste, const core::Zustand& z, const 
   // Number, designation, then the coordinates at equal distances.
   layout.tabsMm = {0, 22, 55, 95, 135};
   layout.schrift.family = z.Einstellungen.Font.empty() ? "Arial" : z.Einstellungen.Font;
+  // The tab stops leave room for the settings' font up to 12 pt.
   layout.schrift.sizePt = z.Einstellungen.FontSize > 0 ? std::min(z.Einstellungen.FontSize, 12.0) : 10.0;
   layout.schrift.bold = z.Einstellungen.FontBold != 0;
   layout.schrift.italic = z.Einstellungen.FontItalic != 0;

@@ -72,12 +72,18 @@ PunkteTabelleForm::PunkteTabelleForm(forms::Forms& forms, core::Anwendung& anwen
     ZelleUebernehmen();
     anwendung_.TabelleSpeichernBefehl();
   });
-  on("Drucken", Event::Click, [this](Control&, EventArgs&) {
+  on("Drucken", Event::Click, [this](Control& knopf, EventArgs&) {
     ZelleUebernehmen();
+    // No second list while the printer's dialog of the first is open.
+    knopf.setEnabled(false);
     PunkteListeDrucken(services(), anwendung_.zustand(), grid());
+    knopf.setEnabled(true);
   });
   on("Cancel", Event::Click, [this](Control&, EventArgs&) { this->forms().unload(*this); });
 }
+
+// A value still being typed is kept, however the dialog is closed.
+void PunkteTabelleForm::Unload() { ZelleUebernehmen(); }
 
 void PunkteTabelleForm::Load() {
   Repaint();
@@ -267,6 +273,7 @@ void PunkteTabelleForm::ziehenAnzeigen() {
 void PunkteTabelleForm::ablegen(EventArgs& a) {
   control("tmrDrag").setEnabled(false);
   control("DragLabel").setCaption("");
+  control("DragLabel").setTag("");
   const int von = quelle_;
   quelle_ = -1;
   if (!a.source || &a.source->form() != this || von < 0) return;

@@ -28,6 +28,7 @@ class PunkteTabelleForm : public forms::Form {
 
  protected:
   void Load() override;
+  void Unload() override;
 
  private:
   forms::Control& grid() const;

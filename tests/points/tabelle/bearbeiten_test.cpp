@@ -123,6 +123,15 @@ TEST(PunkteTabelleTippen, LetterKeysStoreAndInsertVariables) {
   EXPECT_DOUBLE_EQ(t.p(4).A, 12.5) << "an empty slot becomes a point";
 }
 
+TEST(PunkteTabelleTippen, ClosingTheDialogKeepsTheValueBeingTyped) {
+  Tabelle t;
+  t.oeffnen();
+  t.tippe(3, 2, "42");
+  t.taste("{ESC}");  // Esc presses Schließen
+  EXPECT_EQ(t.forms.FormGeladen("PunkteTabelle"), -1);
+  EXPECT_DOUBLE_EQ(t.p(2).A, 42);
+}
+
 TEST(PunkteTabelleTippen, TheRowOfAnzahlPunkteTakesAPointToo) {
   Tabelle t;
   t.oeffnen();

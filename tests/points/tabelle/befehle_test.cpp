@@ -136,6 +136,7 @@ TEST(PunkteTabelleDrucken, TheListHasTheHeaderAndOneLinePerPointAsShown) {
   EXPECT_EQ(zeilen[1], (std::vector<std::string>{"3", "Pkt.", "100.500", "200.250", "3.000"}));
   EXPECT_EQ(zeilen[2], (std::vector<std::string>{"8", "Pkt.", "-1.000", "2.000", "0.000"}));
   EXPECT_GE(seiten[0].linien, 4) << "a frame around the page";
+  EXPECT_TRUE(f.control("Drucken").enabled()) << "ready for the next list";
 }
 
 TEST(PunkteTabelleDrucken, ColumnsStandAtTheSameTabStopsAndAFullPageStartsTheNext) {

@@ -114,6 +114,33 @@ TEST(PunkteTabelleZurueckLesen, APastedPointTakesTheDefaultsOfANewPoint) {
   EXPECT_EQ(t.zelle(8, 1), "Baum");
 }
 
+// Stands in for the graphic: counts its repaints.
+class Grafik : public forms::Form {
+ public:
+  explicit Grafik(forms::Forms& f, int& zaehler) : Form(f, "Grafik", "Grafik") {
+    add(forms::ControlKind::CommandButton, "Repaint").hidden();
+    on("Repaint", forms::Event::Click, [&zaehler](forms::Control&, forms::EventArgs&) { ++zaehler; });
+  }
+};
+
+TEST(PunkteTabelleZurueckLesen, TheGraphicRedrawsWhenAPointChanged) {
+  Tabelle t;
+  int neuGezeichnet = 0;
+  t.forms.registerForm("Grafik", [&](forms::Forms& f) { return std::make_unique<Grafik>(f, neuGezeichnet); });
+  t.forms.show("Grafik");
+  t.punkt(1, 1, 2);
+  t.oeffnen();
+  t.anwendung.RereadPunkteTabelle();
+  EXPECT_EQ(neuGezeichnet, 0) << "nothing changed";
+  t.grid().setCell(2, 2, "5");
+  t.anwendung.RereadPunkteTabelle();
+  EXPECT_EQ(neuGezeichnet, 1);
+  t.tippe(3, 3, "8{ENTER}");
+  EXPECT_EQ(neuGezeichnet, 2);
+  t.tippe(2, 2, "{DELETE}");
+  EXPECT_EQ(neuGezeichnet, 3);
+}
+
 TEST(PunkteTabelleAuswahl, TheSelectedRowsGiveFirstAndLastPointInEitherDirection) {
   Tabelle t;
   EXPECT_FALSE(MarkiertePunkte(t.zustand, t.forms).has_value()) << "closed: no selection";

@@ -115,6 +115,8 @@ bool Anwendung::Starten(const std::string& parameter, bool demo) {
   if (lvPruefen) lvPruefen(zustand_.ProjektVerzeichnis, false);
   zustand_.Laden = Falsch;
   zustand_.TabelleGeaendert = Falsch;
+  // The last reading text would otherwise stand as if the load still ran.
+  if (AktiveZeileBenannt()) Status("Tabelle " + zustand_.Tabellen[zustand_.AktiveTabelle].TablName + " geladen");
   return true;
 }
 

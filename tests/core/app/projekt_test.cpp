@@ -86,6 +86,7 @@ TEST(Start, TheLastProjectOpensWithItsActiveTable) {
   EXPECT_EQ(p.zustand.AktiveTabelle, 0);
   EXPECT_EQ(p.zustand.Punkte[5].A, 101.25);
   EXPECT_EQ(p.anwendung.main()->control("LabelAktTab").captionText(), "Achse 1");
+  EXPECT_EQ(p.dienste.status.text(), "Tabelle Achse 1 geladen");
   EXPECT_EQ(p.anwendung.main()->control("Check3D").value(), 1);
   EXPECT_EQ(p.zustand.Tabellen[0].Dritte, Wahr);
   EXPECT_EQ(fs::current_path().string() + "/", dir) << "the working folder is the project";

@@ -204,8 +204,15 @@ void QtHost::applyPlacement(Entry& e) {
   QWidget* w = e.window;
   const forms::WindowPlacement p = e.form->placement();
   ++e.applying;
-  if (p.width > 0 && p.height > 0) w->resize(p.width, p.height);
-  else w->resize(w->sizeHint().expandedTo(w->minimumSizeHint()));
+  // A fixed-size dialog keeps the size its controls need now (a 3D table
+  // shows one field more than the 2D one it was last closed in); no window
+  // is made smaller than its controls need.
+  QSize size = w->sizeHint().expandedTo(w->minimumSizeHint());
+  if (p.width > 0 && p.height > 0 && e.form->resizable())
+    size = QSize(p.width, p.height).expandedTo(w->minimumSizeHint());
+  // A child window stays within the frame's client area.
+  if (!w->isWindow() && area_) size = size.boundedTo(area_->viewport()->size());
+  w->resize(size);
   if (p.left != -1 && p.top != -1) {
     w->move(p.left, p.top);
   } else if (w->isWindow() && frame_) {

@@ -1,0 +1,57 @@
+// The entries of the main window and the buttons of its bar open the dialogs.
+#include <gtest/gtest.h>
+
+#include "core/main/main_form.h"
+#include "kontrolle_hilfen.h"
+
+namespace kolm::points::test {
+namespace {
+
+struct MitHauptfenster : Umgebung {
+  core::MainForm* main = nullptr;
+  MitHauptfenster() {
+    core::RegisterMainForms(forms, "/nicht/da");
+    main = static_cast<core::MainForm*>(forms.show("Main"));
+    anwendung.setMain(main);
+    PunkteKontrolleVerbinden(*main, anwendung);
+  }
+  forms::Control& knopf(const std::string& tip) {
+    for (forms::Control* c : main->array("FnLButton"))
+      if (c->toolTip() == tip) return *c;
+    throw std::runtime_error("kein Knopf " + tip);
+  }
+  bool offen(const char* name) const {
+    const forms::Form* f = forms.find(name);
+    return f && f->shown();
+  }
+};
+
+TEST(PunkteKontrolleVerdrahtung, MenuEntriesOpenTheirDialogs) {
+  const std::vector<std::pair<const char*, const char*>> faelle = {
+      {"MnuWerkzeugePunkteKontrolle", "PunkteKontrolle"},
+      {"mnuAnsichtPunkteKontrolle", "PunkteKontrolle"},
+      {"MnuTabelleBezeichnung", "PunktBezeichnungen"},
+      {"MnuTabelleVariablen", "VariablenTabelle"},
+  };
+  for (const auto& [eintrag, dialog] : faelle) {
+    SCOPED_TRACE(eintrag);
+    MitHauptfenster m;
+    EXPECT_TRUE(m.main->control(eintrag).enabled());
+    m.main->control(eintrag).click();
+    EXPECT_TRUE(m.offen(dialog));
+    EXPECT_EQ(m.forms.active(), m.forms.find(dialog));
+  }
+  MitHauptfenster m;
+  EXPECT_EQ(m.main->control("mnuAnsichtPunkteKontrolle").shortcutKeys(), "Ctrl+P");
+}
+
+TEST(PunkteKontrolleVerdrahtung, TheButtonsOfTheBarFollowTheirEntries) {
+  MitHauptfenster m;
+  m.knopf("Punkte Kontrollfenster (Addieren, Multiplizieren)").click();
+  EXPECT_TRUE(m.offen("PunkteKontrolle"));
+  m.knopf("Punkt Darstellung, Bezeichnungen und Farben").click();
+  EXPECT_TRUE(m.offen("PunktBezeichnungen"));
+}
+
+}  // namespace
+}  // namespace kolm::points::test

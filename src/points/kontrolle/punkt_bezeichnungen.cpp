@@ -120,7 +120,7 @@ PunktBezeichnungenForm::PunktBezeichnungenForm(forms::Forms& forms, core::Anwend
       .tip("Neue Punkte bekommen diese Kurzbezeichnung").in("FrameStandard").at(1, 0);
 
   add(ControlKind::Frame, "FrameFarbe").caption("Farbe der Punkte").at(1, 1);
-  add(ControlKind::ListBox, "ListPktFarbe").width(14)
+  add(ControlKind::ComboBox, "ListPktFarbe").dropDownList().width(14)
       .tip("Alle Punkte dieser Kurzbezeichnung bekommen die gewählte Farbe").in("FrameFarbe").at(0, 0);
 
   add(ControlKind::Frame, "FrameDistanz").caption("Abstand der Punktbeschriftung").at(1, 2, 1, 2);
@@ -227,6 +227,7 @@ void PunktBezeichnungenForm::anzeigen(int eintrag) {
     }
   }
   control("ListPktFarbe").setListIndex(farbZeile);
+  if (farbZeile < 0) control("ListPktFarbe").setText("");
   fuellen_ = false;
   for (const char* befehl : {"Löschen", "cmdStdDistanz", "cmdAlle"}) control(befehl).setEnabled(k >= 0);
 }

@@ -195,7 +195,8 @@ void Program::wireCore() {
     return core::Fensterflaeche{0, 0, 0, 0};  // children stand in the client area's own coordinates
   });
   fenster.setNachSchreiben([this] {
-    if (main_ && main_->loaded()) main_->control("TimerDropWait").setEnabled(true);
+    // Looked up each time: at the end Main may be gone before the last dialog.
+    if (forms::Form* main = forms_->find("Main")) main->control("TimerDropWait").setEnabled(true);
   });
 }
 

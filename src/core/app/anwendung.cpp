@@ -20,8 +20,11 @@ Anwendung::Anwendung(Zustand& zustand, forms::Forms& forms)
 }
 
 void Anwendung::setMain(MainForm* main) {
+  if (main_) main_->removeObserver(&mainBeobachter_);
   main_ = main;
   if (!main_) return;
+  mainBeobachter_.anwendung = this;
+  main_->addObserver(&mainBeobachter_);
   main_->onSettingChanged([this](forms::Control& c) { EinstellungGeaendert(c); });
   main_->on("TimerAuto", forms::Event::Timer, [this](forms::Control&, forms::EventArgs&) { TimerAutoTick(); });
   // The status line writes into LabelInfo from now on.

@@ -138,6 +138,12 @@ class Anwendung {
   forms::Forms& forms_;
   TabellenKontext kontext_;
   MainForm* main_ = nullptr;
+  // Lets go of Main when it unloads, so nothing later reaches a freed form.
+  struct MainBeobachter : forms::FormObserver {
+    Anwendung* anwendung = nullptr;
+    void propertyChanged(forms::Control&, forms::Property, int, int) override {}
+    void formUnloaded() override { anwendung->main_ = nullptr; }
+  } mainBeobachter_;
   int punktZumAuffrischen_ = -1;
   int autoZaehler_ = 0;
   std::vector<std::function<void()>> beimBeenden_;

@@ -164,6 +164,7 @@ void Anwendung::ProjektOeffnen(const std::string& verzeichnis) {
   zustand_.TabelleGeaendert = Falsch;
   TitelSetzen();
   NachTabellenwechselAuffrischen();
+  forms_.trigger("Tabellenauswahl", "ReRead");
 }
 
 void Anwendung::Beenden() {

@@ -202,3 +202,20 @@ TEST(AutoSave, AnIntervalOfZeroDoesNothing) {
 
 }  // namespace
 }  // namespace kolm::core
+
+namespace kolm::core {
+namespace {
+
+TEST(MainWindow, OnceUnloadedItIsNoLongerReached) {
+  Umgebung u;
+  ASSERT_NE(u.anwendung.main(), nullptr);
+  u.forms.unload(*u.anwendung.main());
+  EXPECT_EQ(u.anwendung.main(), nullptr);
+  u.forms.collect();
+  u.anwendung.IntervallSetzen(3);  // reached Main before; must not now
+  u.anwendung.HauptfensterAusAktiverZeile();
+  EXPECT_EQ(u.zustand.Intervall, 3);
+}
+
+}  // namespace
+}  // namespace kolm::core

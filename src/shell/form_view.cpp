@@ -384,6 +384,9 @@ void FormWidget::create(Item& item, const ControlViews* views) {
       view->setModel(item.grid);
       item.widget = view;
       watch(item, view->viewport());
+      // The fixed column is the row header: points are dragged by their number.
+      watch(item, view->verticalHeader()->viewport());
+      if (c.isDropTarget()) view->verticalHeader()->viewport()->setAcceptDrops(true);
       break;
     }
     case ControlKind::PictureBox:
@@ -1009,7 +1012,7 @@ bool FormWidget::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::DragEnter:
     case QEvent::DragMove:
     case QEvent::Drop:
-      return handleDrop(*item, event);
+      return handleDrop(*item, watched, event);
     default:
       break;
   }
@@ -1051,9 +1054,12 @@ bool FormWidget::handleDrag(Item& item, QObject* watched, QEvent* event) {
   switch (event->type()) {
     case QEvent::MouseButtonPress: {
       auto* e = static_cast<QMouseEvent*>(event);
-      if (e->button() == Qt::LeftButton) {
+      // A sweep over a grid's cells selects; only its row header drags.
+      const bool gridCells = item.grid && !IsRowHeader(item, watched);
+      if (e->button() == Qt::LeftButton && !gridCells) {
         dragItem_ = &item;
         dragFrom_ = e->position().toPoint();
+        dragWatched_ = watched;
       }
       return false;
     }
@@ -1070,6 +1076,7 @@ bool FormWidget::handleDrag(Item& item, QObject* watched, QEvent* event) {
       args.button = 1;
       args.x = dragFrom_.x();
       args.y = dragFrom_.y();
+      GridCellAt(item, dragWatched_, dragFrom_, args.row, args.col);
       item.control->raise(Event::DragStart, args);
       if (!form_ || args.cancel) return true;
       auto* drag = new QDrag(watched);
@@ -1086,7 +1093,32 @@ bool FormWidget::handleDrag(Item& item, QObject* watched, QEvent* event) {
   }
 }
 
-bool FormWidget::handleDrop(Item& item, QEvent* event) {
+bool FormWidget::IsRowHeader(const Item& item, const QObject* watched) {
+  auto* view = item.grid ? qobject_cast<QTableView*>(item.widget) : nullptr;
+  return view && watched == view->verticalHeader()->viewport();
+}
+
+// The grid's own row and column (fixed ones counted) at a point of its cell
+// area or its row header; -1, -1 elsewhere.
+void FormWidget::GridCellAt(const Item& item, const QObject* watched, QPoint pos, int& row, int& col) {
+  row = col = -1;
+  auto* view = item.grid ? qobject_cast<QTableView*>(item.widget) : nullptr;
+  if (!view) return;
+  const int fixedRows = item.grid->fixedRows(), fixedCols = item.grid->fixedCols();
+  if (watched == view->viewport()) {
+    const QModelIndex index = view->indexAt(pos);
+    if (!index.isValid()) return;
+    row = index.row() + fixedRows;
+    col = index.column() + fixedCols;
+  } else if (IsRowHeader(item, watched)) {
+    const int r = view->verticalHeader()->logicalIndexAt(pos.y());
+    if (r < 0) return;
+    row = r + fixedRows;
+    col = fixedCols > 0 ? fixedCols - 1 : 0;
+  }
+}
+
+bool FormWidget::handleDrop(Item& item, QObject* watched, QEvent* event) {
   auto* e = static_cast<QDropEvent*>(event);
   const DragSource& source = CurrentDrag();
   const bool ours = e->mimeData() && e->mimeData()->hasFormat(QString::fromLatin1(kDragFormat)) &&
@@ -1101,6 +1133,7 @@ bool FormWidget::handleDrop(Item& item, QEvent* event) {
   args.source = source.control;
   args.x = e->position().x();
   args.y = e->position().y();
+  GridCellAt(item, watched, e->position().toPoint(), args.row, args.col);
   item.control->raise(Event::DragDrop, args);
   return true;
 }

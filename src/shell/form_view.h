@@ -111,7 +111,9 @@ class FormWidget final : public QWidget, public forms::FormObserver {
   void clicked(Item& item);
   bool keyPress(Item& item, QObject* watched, QKeyEvent* event);
   bool handleDrag(Item& item, QObject* watched, QEvent* event);
-  bool handleDrop(Item& item, QEvent* event);
+  bool handleDrop(Item& item, QObject* watched, QEvent* event);
+  static bool IsRowHeader(const Item& item, const QObject* watched);
+  static void GridCellAt(const Item& item, const QObject* watched, QPoint pos, int& row, int& col);
 
   Item* itemOf(const forms::Control& control) const;
   QString widgetText(const Item& item) const;
@@ -126,6 +128,7 @@ class FormWidget final : public QWidget, public forms::FormObserver {
   bool timersEnabled_ = true;
   QPoint dragFrom_;
   Item* dragItem_ = nullptr;
+  QObject* dragWatched_ = nullptr;
 };
 
 }  // namespace kolm::shell

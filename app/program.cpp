@@ -242,7 +242,9 @@ void Program::writeScreenshotLater(const std::string& path, bool thenQuit) {
   });
 }
 
-int Program::runMacro(const std::string& file, std::ostream& out) {
+int Program::runMacro(const std::string& given, std::ostream& out) {
+  // Opening the project changes the working folder; the macro stays found.
+  const std::string file = QFileInfo(QString::fromStdString(given)).absoluteFilePath().toStdString();
   host_->setTimersEnabled(false);
   forms::macro::MacroDialogs dialogs;
   ProgramMacroEnvironment environment(*forms_, *host_, *anwendung_);

@@ -767,7 +767,9 @@ void FormWidget::mirrorGridWidths(Item& item) {
   if (!item.grid) return;
   auto* view = static_cast<GridView*>(item.widget);
   const forms::GridData& g = item.control->gridData();
-  const int charWidth = view->fontMetrics().averageCharWidth();
+  // Grids hold numbers: a digit is wider than the average letter.
+  const int charWidth = std::max(view->fontMetrics().averageCharWidth(),
+                                 view->fontMetrics().horizontalAdvance(QLatin1Char('0')));
   const int fixedCols = item.grid->fixedCols();
   int headerWidth = 0;
   for (int c = 0; c < g.cols && c < static_cast<int>(g.colWidthChars.size()); ++c) {

@@ -26,7 +26,7 @@ namespace keys = forms::keys;
 
 namespace {
 
-constexpr int BreiteNummer = 9, BreiteBezeichnung = 14, BreiteWert = 15;
+constexpr int BreiteNummer = 8, BreiteBezeichnung = 12, BreiteWert = 16;
 
 bool BeendetZelle(int keyCode) {
   return keyCode == keys::Return || keyCode == keys::Left || keyCode == keys::Right || keyCode == keys::Up ||
@@ -37,7 +37,7 @@ bool BeendetZelle(int keyCode) {
 
 PunkteTabelleForm::PunkteTabelleForm(forms::Forms& forms, core::Anwendung& anwendung)
     : Form(forms, "PunkteTabelle", "Punkte-Tabelle"), anwendung_(anwendung) {
-  setPreferredSize(640, 480);
+  setPreferredSize(720, 480);
   add(ControlKind::Grid, "Grid").grid(2, 4, 1, 1).draggable().dropTarget().at(0, 0, 1, 5);
   add(ControlKind::CommandButton, "Umbenennen").caption("&Umbenennen")
       .tip("Den markierten Punkten eine andere Bezeichnung geben").at(1, 0);

@@ -13,6 +13,7 @@
 
 #include "core/catalog/katalog.h"
 #include "core/io/files.h"
+#include "support/test_ordner.h"
 #include "core/state/zustand.h"
 #include "forms/scripted.h"
 
@@ -20,37 +21,8 @@ namespace kolm::core::katalogtest {
 
 namespace fs = std::filesystem;
 
-struct Ordner {
-  fs::path pfad;
-  Ordner() {
-    std::string muster = (fs::temp_directory_path() / "kolm-katalog-XXXXXX").string();
-    pfad = ::mkdtemp(muster.data());
-  }
-  ~Ordner() {
-    io::SetFaultHook(nullptr);
-    std::error_code ec;
-    fs::remove_all(pfad, ec);
-  }
-  Ordner(const Ordner&) = delete;
-  Ordner& operator=(const Ordner&) = delete;
-  std::string verzeichnis() const { return pfad.string() + "/"; }
-  std::string datei(const std::string& name) const { return (pfad / name).string(); }
-  std::string lesen(const std::string& name) const { return io::ReadFile(datei(name)).value_or("<fehlt>"); }
-  bool gibt(const std::string& name) const { return fs::exists(pfad / name); }
-  void schreiben(const std::string& name, const std::string& bytes) const {
-    ASSERT_TRUE(io::WriteFileAtomically(datei(name), bytes)) << name;
-  }
-  // Sets the file's modification time to a fixed moment plus `sekunden`.
-  void zeit(const std::string& name, int sekunden) const {
-    static const auto basis = fs::file_time_type::clock::now() - std::chrono::hours(24);
-    fs::last_write_time(pfad / name, basis + std::chrono::seconds(sekunden));
-  }
-  std::vector<std::string> dateien() const {
-    std::vector<std::string> namen;
-    for (const auto& e : fs::directory_iterator(pfad)) namen.push_back(e.path().filename().string());
-    std::sort(namen.begin(), namen.end());
-    return namen;
-  }
+struct Ordner : ::kolm::testhilfen::TestOrdner {
+  Ordner() : TestOrdner("katalog") {}
 };
 
 struct Umgebung {

@@ -15,6 +15,7 @@
 #include <vector>
 
 #include "core/io/files.h"
+#include "support/test_ordner.h"
 #include "core/state/zustand.h"
 #include "core/tables/tabellen_dateien.h"
 #include "forms/scripted.h"
@@ -24,31 +25,8 @@ namespace kolm::core::testhilfen {
 
 namespace fs = std::filesystem;
 
-// A fresh project folder, removed again with everything in it.
-struct Projektordner {
-  fs::path pfad;
-  Projektordner() {
-    std::string muster = (fs::temp_directory_path() / "kolm-tabellen-XXXXXX").string();
-    pfad = ::mkdtemp(muster.data());
-  }
-  ~Projektordner() {
-    io::SetFaultHook(nullptr);
-    std::error_code ec;
-    fs::remove_all(pfad, ec);
-  }
-  std::string verzeichnis() const { return pfad.string() + "/"; }
-  std::string datei(const std::string& name) const { return (pfad / name).string(); }
-  std::string lesen(const std::string& name) const { return io::ReadFile(datei(name)).value_or("<fehlt>"); }
-  bool gibt(const std::string& name) const { return fs::exists(pfad / name); }
-  void schreiben(const std::string& name, const std::string& bytes) const {
-    ASSERT_TRUE(io::WriteFileAtomically(datei(name), bytes)) << name;
-  }
-  std::vector<std::string> dateien() const {
-    std::vector<std::string> namen;
-    for (const auto& e : fs::directory_iterator(pfad)) namen.push_back(e.path().filename().string());
-    std::sort(namen.begin(), namen.end());
-    return namen;
-  }
+struct Projektordner : ::kolm::testhilfen::TestOrdner {
+  Projektordner() : TestOrdner("tabellen") {}
 };
 
 // An image codec that "reads" any file whose content starts with "BILD"

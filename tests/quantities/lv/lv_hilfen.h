@@ -13,40 +13,14 @@
 #include <vector>
 
 #include "core/io/files.h"
+#include "support/test_ordner.h"
 
 namespace kolm::quantities::testhilfen {
 
 namespace fs = std::filesystem;
 
-// A fresh folder, removed again with everything in it.
-struct Ordner {
-  fs::path pfad;
-  Ordner() {
-    std::string muster = (fs::temp_directory_path() / "kolm-lv-XXXXXX").string();
-    pfad = ::mkdtemp(muster.data());
-  }
-  ~Ordner() {
-    std::error_code ec;
-    fs::remove_all(pfad, ec);
-  }
-  Ordner(const Ordner&) = delete;
-  Ordner& operator=(const Ordner&) = delete;
-
-  std::string verzeichnis() const { return pfad.string() + "/"; }
-  std::string datei(const std::string& name) const { return (pfad / name).string(); }
-  std::string lesen(const std::string& name) const {
-    return core::io::ReadFile(datei(name)).value_or("<fehlt>");
-  }
-  bool gibt(const std::string& name) const { return fs::exists(pfad / name); }
-  void schreiben(const std::string& name, const std::string& bytes) const {
-    ASSERT_TRUE(core::io::WriteFileAtomically(datei(name), bytes)) << name;
-  }
-  std::vector<std::string> dateien() const {
-    std::vector<std::string> namen;
-    for (const auto& e : fs::directory_iterator(pfad)) namen.push_back(e.path().filename().string());
-    std::sort(namen.begin(), namen.end());
-    return namen;
-  }
+struct Ordner : ::kolm::testhilfen::TestOrdner {
+  Ordner() : TestOrdner("lv") {}
 };
 
 // Rows of a query as texts; NULL reads as "<NULL>". A failure gives one row

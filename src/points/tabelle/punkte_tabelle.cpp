@@ -1,4 +1,5 @@
 #include "points/tabelle/punkte_tabelle.h"
+#include "points/zahl_feld.h"
 
 #include <algorithm>
 #include <cmath>
@@ -224,7 +225,8 @@ void PunkteTabelleForm::ZelleUebernehmen() {
   z.TabelleGeaendert = core::Wahr;
   if (!IstPunktZeile(z, b.zeile)) return;
   const int n = PunktVonZeile(b.zeile);
-  PunktWertSetzen(z, n, b.spalte, numbers::ZahlLesen(b.text));
+  // An overflowing entry is refused; the point keeps its value.
+  if (const auto wert = FeldZahl(services().messages, b.text)) PunktWertSetzen(z, n, b.spalte, *wert);
   zeileSchreiben(n);
   anwendung_.RefreshGrafik();
 }

@@ -169,3 +169,23 @@ TEST(PunkteTabelleTippen, AnyKeysInAnyCellNeverBreakTheTable) {
 
 }  // namespace
 }  // namespace kolm::points::test
+
+namespace kolm::points::test {
+namespace {
+
+TEST(PunkteTabelleTippen, ANumberBeyondTheRangeOfADoubleIsRefusedWithTheOverflowMessage) {
+  Tabelle t;
+  t.punkt(5, 12.5, 7, 0);
+  t.oeffnen();
+  t.tippe(6, 3, "{BACKSPACE}{BACKSPACE}{BACKSPACE}" + std::string(400, '9') + "{ENTER}");
+  ASSERT_EQ(t.dienste.messages.shown().size(), 1u);
+  EXPECT_EQ(t.dienste.messages.shown()[0].message.text, "Error 6 Overflow: Zahlenbereich überschritten!");
+  EXPECT_DOUBLE_EQ(t.p(5).B, 7) << "the stored value is not lost";
+  EXPECT_EQ(t.zelle(6, 3), "7.000");
+  t.tippe(6, 3, "{BACKSPACE}" + std::string(300, '9') + "{ENTER}");
+  EXPECT_GT(t.p(5).B, 9e299) << "a large but finite number is taken";
+  EXPECT_EQ(t.dienste.messages.shown().size(), 1u);
+}
+
+}  // namespace
+}  // namespace kolm::points::test

@@ -129,17 +129,17 @@ void MainWindow::buildMenus() {
 }
 
 void MainWindow::buildBars() {
-  struct Spec {
+  struct Leiste {
     MainForm::Bar bar;
     const char* buttons;
     Qt::ToolBarArea area;
   };
-  const Spec specs[] = {
+  const Leiste leisten[] = {
       {MainForm::Bar::Funktionen, "FnLButton", Qt::TopToolBarArea},
       {MainForm::Bar::Geradenschnitte, "GerButton", Qt::LeftToolBarArea},
       {MainForm::Bar::Kreisberechnungen, "KreisButton", Qt::RightToolBarArea},
   };
-  for (const Spec& s : specs) {
+  for (const Leiste& s : leisten) {
     Control& frame = main_.barFrame(s.bar);
     auto* tb = new QToolBar(Q(frame.captionText()), this);
     tb->setObjectName(Q(frame.name()));

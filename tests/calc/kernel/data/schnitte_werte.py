@@ -45,18 +45,19 @@ def umkreis(a1, b1, a2, b2, a3, b3):
     if not ok: return False, (0.0, 0.0, 0.0)
     return True, (ma, mb, math.sqrt((ma-a1)**2 + (mb-b1)**2))
 
-for args in [(0, 0, 1, 1, 10, 0, -1, 2), (100, 200, 3, -4, 50, 50, 0, 1), (1, 1, 2, 2, 5, 0, -4, -4)]:
-    ok, sa, sb = geraden(*args); print("geraden", args, ok, repr(sa), repr(sb))
-for args in [(0, 0, 0.5, 10, 0, 0.25), (5, 5, 1e36, 0, 0, 1e36)]:
-    ok, sa, sb = geraden(args[0], args[1], 1, args[2], args[3], args[4], 1, args[5]); print("steigung", args, ok, repr(sa), repr(sb))
-for args in [(0, 0, 5, -10, 3, 1, 0), (10, 20, 13, 0, 0, 3, 4), (0, 0, 5, 5, -9, 0, 1), (0, 0, 5, 6, 0, 0, 1), (0, 0, 0, 0, 7, 1, 0), (0, 0, 0, 1, 7, 1, 0)]:
-    ok, v = gerade_kreis(*args); print("geradekreis", args, ok, [repr(x) for x in v])
-    if ok: print("  check r", [math.hypot(v[0]-args[0], v[1]-args[1]), math.hypot(v[2]-args[0], v[3]-args[1])])
-for args in [(0, 0, 5, 8, 0, 5), (0, 0, 10, 12, 5, 7), (12, 5, 7, 0, 0, 10), (0, 0, 5, 10, 0, 5), (0, 0, 10, 3, 4, 5), (1, 2, 3, 4, 6, 2)]:
-    ok, v = kreis_kreis(*args); print("kreiskreis", args, ok, [repr(x) for x in v])
-    if ok: print("  check", [math.hypot(v[i]-args[0], v[i+1]-args[1]) for i in (0, 2)], [math.hypot(v[i]-args[3], v[i+1]-args[4]) for i in (0, 2)])
-for args in [(0, 0, 5, 10, 0), (3, -2, 4, -5, 7)]:
-    ok, v = tangenten(*args); print("tangenten", args, ok, [repr(x) for x in v])
-    if ok: print("  check perpendicular", [(v[i]-args[0])*(v[i]-args[3]) + (v[i+1]-args[1])*(v[i+1]-args[4]) for i in (0, 2)])
-for args in [(0, 0, 4, 0, 0, 3), (1, 2, 7, -1, 4, 6), (0, 0, 1, 1, 2, 2)]:
-    ok, v = umkreis(*args); print("umkreis", args, ok, [repr(x) for x in v])
+if __name__ == "__main__":
+    for args in [(0, 0, 1, 1, 10, 0, -1, 2), (100, 200, 3, -4, 50, 50, 0, 1), (1, 1, 2, 2, 5, 0, -4, -4)]:
+        ok, sa, sb = geraden(*args); print("geraden", args, ok, repr(sa), repr(sb))
+    for args in [(0, 0, 0.5, 10, 0, 0.25), (5, 5, 1e36, 0, 0, 1e36)]:
+        ok, sa, sb = geraden(args[0], args[1], 1, args[2], args[3], args[4], 1, args[5]); print("steigung", args, ok, repr(sa), repr(sb))
+    for args in [(0, 0, 5, -10, 3, 1, 0), (10, 20, 13, 0, 0, 3, 4), (0, 0, 5, 5, -9, 0, 1), (0, 0, 5, 6, 0, 0, 1), (0, 0, 0, 0, 7, 1, 0), (0, 0, 0, 1, 7, 1, 0)]:
+        ok, v = gerade_kreis(*args); print("geradekreis", args, ok, [repr(x) for x in v])
+        if ok: print("  check r", [math.hypot(v[0]-args[0], v[1]-args[1]), math.hypot(v[2]-args[0], v[3]-args[1])])
+    for args in [(0, 0, 5, 8, 0, 5), (0, 0, 10, 12, 5, 7), (12, 5, 7, 0, 0, 10), (0, 0, 5, 10, 0, 5), (0, 0, 10, 3, 4, 5), (1, 2, 3, 4, 6, 2)]:
+        ok, v = kreis_kreis(*args); print("kreiskreis", args, ok, [repr(x) for x in v])
+        if ok: print("  check", [math.hypot(v[i]-args[0], v[i+1]-args[1]) for i in (0, 2)], [math.hypot(v[i]-args[3], v[i+1]-args[4]) for i in (0, 2)])
+    for args in [(0, 0, 5, 10, 0), (3, -2, 4, -5, 7)]:
+        ok, v = tangenten(*args); print("tangenten", args, ok, [repr(x) for x in v])
+        if ok: print("  check perpendicular", [(v[i]-args[0])*(v[i]-args[3]) + (v[i+1]-args[1])*(v[i+1]-args[4]) for i in (0, 2)])
+    for args in [(0, 0, 4, 0, 0, 3), (1, 2, 7, -1, 4, 6), (0, 0, 1, 1, 2, 2)]:
+        ok, v = umkreis(*args); print("umkreis", args, ok, [repr(x) for x in v])

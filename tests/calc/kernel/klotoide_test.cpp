@@ -1,0 +1,144 @@
+// The clothoid series and the egg and inflection line; values from
+// data/klotoide_werte.py, the clothoid points also checked there against a
+// numerical integral.
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include "calc/kernel/klotoide.h"
+#include "calc/kernel/wendelinie.h"
+
+namespace kolm::kernel {
+namespace {
+
+TEST(KlotoidePunkt, WorkedPointsAgreeWithTheIntegral) {
+  struct Fall { double A, L, x, y, xIntegral, yIntegral; };
+  for (const Fall f :
+       {Fall{100, 100, 97.52876882131392, 16.371404709295334, 97.5287688200343, 16.371404737570074},
+        Fall{50, 30, 29.90294569098646, 1.795838580187013, 29.90294569103467, 1.7958385777584354},
+        Fall{200, 350, 276.37603841792446, 150.86922616343932, 276.3760383644432,
+             150.86922668801978}}) {
+    double x = 0, y = 0;
+    EXPECT_TRUE(KlotoidePunkt(f.A, f.L, x, y));
+    EXPECT_NEAR(x, f.x, 1e-9) << f.A << " " << f.L;
+    EXPECT_NEAR(y, f.y, 1e-9);
+    // The series stops at 1E-7 relative: close to the curve, not exact.
+    EXPECT_NEAR(x, f.xIntegral, 1e-5 * f.L);
+    EXPECT_NEAR(y, f.yIntegral, 1e-5 * f.L);
+  }
+}
+
+TEST(KlotoidePunkt, LengthZeroIsTheOrigin) {
+  double x = 5, y = 5;
+  EXPECT_TRUE(KlotoidePunkt(2, 0, x, y));
+  EXPECT_EQ(x, 0);
+  EXPECT_EQ(y, 0);
+}
+
+TEST(KlotoidePunkt, ParameterZeroFailsAndKeepsTheOutputs) {
+  double x = 3, y = 4;
+  EXPECT_FALSE(KlotoidePunkt(0, 100, x, y));
+  EXPECT_EQ(x, 3);
+  EXPECT_EQ(y, 4);
+}
+
+TEST(KlotoidePunkt, LongArcsLoseTheirDigitsButStillSucceed) {
+  // tau = 50 and 450: the alternating terms cancel away every digit, as in the
+  // old program; the true points lie near (8.59, 7.90) and (0.86, 0.91).
+  double x = 0, y = 0;
+  EXPECT_TRUE(KlotoidePunkt(10, 100, x, y));
+  EXPECT_NEAR(x, -5278.969620961224, 1e-6);
+  EXPECT_NEAR(y, 1108.8509578774924, 1e-6);
+  EXPECT_TRUE(KlotoidePunkt(1, 30, x, y));
+  EXPECT_NEAR(x / -2.583482051306615e+176, 1, 1e-9);
+  EXPECT_NEAR(y / -1.0083053851116597e+176, 1, 1e-9);
+}
+
+TEST(KlotoidePunkt, AnOverflowingSeriesFailsWellWithinTheStepLimit) {
+  // L/A = 40: tau = 800. In plain floating point the terms would become
+  // infinite and NaN and the loop would run to 30000 steps; the old program
+  // left by its error handler instead.
+  double x = 3, y = 4;
+  EXPECT_FALSE(KlotoidePunkt(1, 40, x, y));
+  EXPECT_EQ(x, 3);
+  EXPECT_EQ(y, 4);
+  EXPECT_FALSE(KlotoidePunkt(1e-300, 1, x, y)) << "A*A underflows to 0";
+  EXPECT_EQ(x, 3);
+}
+
+TEST(KlotoideReihe, StopsAtTheTermBoundOrTheStepLimit) {
+  double xs = 0, ys = 0;
+  EXPECT_EQ(KlotoideReihe(5.0, KlotoideSchrittGrenze, xs, ys), 11);
+  EXPECT_NEAR(xs, 0.1840996478421094, 1e-14);
+  EXPECT_NEAR(ys, 0.26115980911948006, 1e-14);
+  // Cut off at three steps: the partial sums, not converged.
+  EXPECT_EQ(KlotoideReihe(5.0, 3, xs, ys), 3);
+  EXPECT_NEAR(xs, -0.2758190883190885, 1e-14);
+  EXPECT_NEAR(ys, 1.0579004329004331, 1e-14);
+  // Just below the overflow: 940 steps, far from the limit.
+  EXPECT_EQ(KlotoideReihe(690.0, KlotoideSchrittGrenze, xs, ys), 940);
+  EXPECT_NEAR(xs / 1.500055227383192e+279, 1, 1e-9);
+  // Overflow: 0 steps reported, sums untouched, with or without a limit.
+  xs = ys = 7;
+  EXPECT_EQ(KlotoideReihe(710.0, KlotoideSchrittGrenze, xs, ys), 0);
+  EXPECT_EQ(KlotoideReihe(710.0, KlotoideOhneGrenze, xs, ys), 0);
+  EXPECT_EQ(KlotoideReihe(NAN, KlotoideOhneGrenze, xs, ys), 0);
+  EXPECT_EQ(xs, 7);
+  EXPECT_EQ(ys, 7);
+}
+
+struct Wendel { double A, L1, L2, E; };
+
+TEST(WendelinieRechnen, EggAndInflectionLines) {
+  struct Fall { double R1, R2, D, F; Wendel e; };
+  for (const Fall f :
+       {Fall{100, 300, 2, 1,
+             {112.92868697763436, 127.52888342492524, 42.509627808308416, 85.01925561661682}},
+        Fall{100, 300, 2, -1,
+             {67.14264405446045, 45.081346506239726, 15.027115502079909, 60.108462008319634}},
+        Fall{250, 400, 0.5, -1,
+             {81.31210015779028, 26.446630528282075, 16.529144080176298, 42.97577460845837}}}) {
+    double A = 0, L1 = 0, L2 = 0, E = 0;
+    EXPECT_TRUE(WendelinieRechnen(f.R1, f.R2, f.D, f.F, A, L1, L2, E));
+    EXPECT_NEAR(A, f.e.A, 1e-10);
+    EXPECT_NEAR(L1, f.e.L1, 1e-10);
+    EXPECT_NEAR(L2, f.e.L2, 1e-10);
+    EXPECT_NEAR(E, f.e.E, 1e-10);
+  }
+}
+
+TEST(WendelinieRechnen, TheOrderOfTheRadiiDoesNotMatter) {
+  double A1 = 0, L11 = 0, L21 = 0, E1 = 0, A2 = 0, L12 = 0, L22 = 0, E2 = 0;
+  EXPECT_TRUE(WendelinieRechnen(100, 300, 2, 1, A1, L11, L21, E1));
+  EXPECT_TRUE(WendelinieRechnen(300, 100, 2, 1, A2, L12, L22, E2));
+  EXPECT_EQ(A1, A2);
+  EXPECT_EQ(L11, L12);
+  EXPECT_EQ(L21, L22);
+  EXPECT_EQ(E1, E2);
+}
+
+TEST(WendelinieRechnen, NoGapGivesZeroWithoutFailure) {
+  double A = 9, L1 = 9, L2 = 9, E = 9;
+  EXPECT_TRUE(WendelinieRechnen(100, 300, 0, 1, A, L1, L2, E));
+  EXPECT_EQ(A, 0);
+  EXPECT_EQ(L1, 0);
+  EXPECT_EQ(L2, 0);
+  EXPECT_EQ(E, 0);
+}
+
+TEST(WendelinieRechnen, FailuresKeepTheOutputs) {
+  struct Fall { double R1, R2, D, F; const char* was; };
+  for (const Fall f : {Fall{0, 300, 2, 1, "radius 0"}, Fall{100, -300, 2, -1, "negative radius"},
+                       Fall{100, 100, 2, 1, "equal radii, egg line"},
+                       Fall{100, 100, 2, -1, "R2 + F*R1 = 0"}}) {
+    double A = 9, L1 = 8, L2 = 7, E = 6;
+    EXPECT_FALSE(WendelinieRechnen(f.R1, f.R2, f.D, f.F, A, L1, L2, E)) << f.was;
+    EXPECT_EQ(A, 9);
+    EXPECT_EQ(L1, 8);
+    EXPECT_EQ(L2, 7);
+    EXPECT_EQ(E, 6);
+  }
+}
+
+}  // namespace
+}  // namespace kolm::kernel

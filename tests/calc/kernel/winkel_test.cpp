@@ -83,6 +83,26 @@ TEST(RechtwinkligZuPolar, AStraightUpPointIsPhiZeroUnderM31AndAQuarterOtherwise)
   EXPECT_NEAR(b, 100, 1e-9);
 }
 
+TEST(WinkelNormieren, ANegativeAngleMapsUpIntoTheCircle) {
+  EXPECT_NEAR(WinkelNormieren(-0.1), 6.1831853080000005, 1e-12);
+  EXPECT_NEAR(WinkelNormieren(-0.1), 2 * kPi - 0.1, 1e-12);
+  EXPECT_GT(std::fabs(WinkelNormieren(-0.1) - (2 * M_PI - 0.1)), 1e-10) << "the program's Pi";
+}
+
+TEST(RechtwinkligZuPolar, CoincidentPointsGiveAQuarterCircleOnlyWhenFalschdrehend) {
+  // Expected Phi under the systems 0 .. 3 per unit; e is 0 throughout.
+  const double erwartet[3][4] = {{0, 0, 100, 100}, {0, 0, 90, 90}, {0, 0, 1.570796327, 1.570796327}};
+  const bool m31[4] = {false, true, false, true};
+  const bool falsch[4] = {false, false, true, true};
+  for (int u = 0; u < 3; ++u)
+    for (int s = 0; s < 4; ++s) {
+      double a = 0, b = 0;
+      RechtwinkligZuPolar(a, b, {kEinheiten[u].faktor, m31[s], falsch[s]});
+      EXPECT_EQ(a, 0);
+      EXPECT_NEAR(b, erwartet[u][s], 1e-12) << kEinheiten[u].name << " system " << s;
+    }
+}
+
 // atan works with the exact pi, the quadrant and turn steps with the
 // program's Pi: the mix leaves up to about 1e-9 rad, a micrometre at a
 // kilometre.

@@ -36,3 +36,8 @@ for name, f in units.items():
         for falsch in (False, True):
             print("p2r", name, m31, falsch, repr(p2r(100.0, 50.0, f, m31, falsch)))
             print("r2p", name, m31, falsch, repr(r2p(30.0, -40.0, f, m31, falsch)))
+print("norm -0.1", repr(norm(-0.1)), "2 Pi - 0.1", repr(2*PI - 0.1))
+for name, f in units.items():
+    for m31 in (False, True):
+        for falsch in (False, True):
+            print("r2p (0, 0)", name, m31, falsch, repr(r2p(0.0, 0.0, f, m31, falsch)))

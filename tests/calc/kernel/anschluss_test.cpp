@@ -144,7 +144,7 @@ TEST(RueckwaertsschnittRechnen, FindsTheStationInBothUnits) {
   // S = (50, -40) against A = (0, 0), M = (50, 30), B = (110, 10); the
   // angles were measured at S counter-clockwise from M to A and from B to M.
   struct Fall { double alpha, beta; Winkelsystem s; };
-  for (const Fall f : {Fall{51.34019174590992, 50.19442890773481, kAltgrad},
+  for (const Fall& f : {Fall{51.34019174590992, 50.19442890773481, kAltgrad},
                        Fall{57.04465749545547, 55.771587675260896, kNeugrad}}) {
     double a1 = 0, b1 = 0;
     EXPECT_TRUE(RueckwaertsschnittRechnen(a1, b1, 50, 30, 110, 10, f.alpha, f.beta, f.s));

@@ -14,7 +14,7 @@ constexpr double kPi = 3.141592654;
 
 TEST(ArcusSinus, WorkedValuesAndTheEdges) {
   struct Fall { double x, erwartet; };
-  for (const Fall f : {Fall{0.5, 0.5235987755982989}, Fall{-0.5, -0.5235987755982989},
+  for (const Fall& f : {Fall{0.5, 0.5235987755982989}, Fall{-0.5, -0.5235987755982989},
                        Fall{0.9, 1.1197695149986342}, Fall{-0.9, -1.1197695149986342},
                        Fall{0.0, 0.0}})
     EXPECT_NEAR(ArcusSinus(f.x), f.erwartet, 1e-15) << f.x;
@@ -28,7 +28,7 @@ TEST(ArcusSinus, WorkedValuesAndTheEdges) {
 
 TEST(ArcusCosinus, IsNegativeForNegativeArgumentsAndZeroAtZero) {
   struct Fall { double x, erwartet; };
-  for (const Fall f : {Fall{0.5, 1.0471975511965976}, Fall{-0.5, -1.0471975511965976},
+  for (const Fall& f : {Fall{0.5, 1.0471975511965976}, Fall{-0.5, -1.0471975511965976},
                        Fall{0.9, 0.45102681179626236}, Fall{-0.9, -0.45102681179626236},
                        Fall{1.0, 0.0}, Fall{-1.0, 0.0}})
     EXPECT_NEAR(ArcusCosinus(f.x), f.erwartet, 1e-15) << f.x;
@@ -39,7 +39,7 @@ TEST(ArcusCosinus, IsNegativeForNegativeArgumentsAndZeroAtZero) {
 
 TEST(WinkelAusSeiten, AngleAtTheSecondPoint) {
   struct Fall { double a1, b1, a2, b2, a3, b3, erwartet; };
-  for (const Fall f : {Fall{10, 0, 0, 0, 0, 10, 1.5707963272051035},
+  for (const Fall& f : {Fall{10, 0, 0, 0, 0, 10, 1.5707963272051035},
                        Fall{10, 0, 0, 0, 10, 10, 0.7853981633974484},
                        Fall{3, 4, 0, 0, -5, 1, 2.0169018761485065},
                        Fall{1, 1, 2, 2, 3, 3, 3.141592654},  // straight on

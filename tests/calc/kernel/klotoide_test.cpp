@@ -13,7 +13,7 @@ namespace {
 
 TEST(KlotoidePunkt, WorkedPointsAgreeWithTheIntegral) {
   struct Fall { double A, L, x, y, xIntegral, yIntegral; };
-  for (const Fall f :
+  for (const Fall& f :
        {Fall{100, 100, 97.52876882131392, 16.371404709295334, 97.5287688200343, 16.371404737570074},
         Fall{50, 30, 29.90294569098646, 1.795838580187013, 29.90294569103467, 1.7958385777584354},
         Fall{200, 350, 276.37603841792446, 150.86922616343932, 276.3760383644432,
@@ -91,7 +91,7 @@ struct Wendel { double A, L1, L2, E; };
 
 TEST(WendelinieRechnen, EggAndInflectionLines) {
   struct Fall { double R1, R2, D, F; Wendel e; };
-  for (const Fall f :
+  for (const Fall& f :
        {Fall{100, 300, 2, 1,
              {112.92868697763436, 127.52888342492524, 42.509627808308416, 85.01925561661682}},
         Fall{100, 300, 2, -1,
@@ -128,7 +128,7 @@ TEST(WendelinieRechnen, NoGapGivesZeroWithoutFailure) {
 
 TEST(WendelinieRechnen, FailuresKeepTheOutputs) {
   struct Fall { double R1, R2, D, F; const char* was; };
-  for (const Fall f : {Fall{0, 300, 2, 1, "radius 0"}, Fall{100, -300, 2, -1, "negative radius"},
+  for (const Fall& f : {Fall{0, 300, 2, 1, "radius 0"}, Fall{100, -300, 2, -1, "negative radius"},
                        Fall{100, 100, 2, 1, "equal radii, egg line"},
                        Fall{100, 100, 2, -1, "R2 + F*R1 = 0"}}) {
     double A = 9, L1 = 8, L2 = 7, E = 6;

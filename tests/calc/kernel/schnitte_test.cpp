@@ -15,7 +15,7 @@ constexpr double kGross = 1E+36;
 
 TEST(SchnittGeraden, WorkedIntersections) {
   struct Fall { double p1a, p1b, d1a, d1b, p2a, p2b, d2a, d2b, sa, sb; };
-  for (const Fall f : {Fall{0, 0, 1, 1, 10, 0, -1, 2, 6.666666666666666, 6.666666666666667},
+  for (const Fall& f : {Fall{0, 0, 1, 1, 10, 0, -1, 2, 6.666666666666666, 6.666666666666667},
                        Fall{100, 200, 3, -4, 50, 50, 0, 1, 50.0, 266.66666666666663}}) {
     double sa = -1, sb = -1;
     EXPECT_TRUE(SchnittGeraden(f.p1a, f.p1b, f.d1a, f.d1b, f.p2a, f.p2b, f.d2a, f.d2b, sa, sb));
@@ -69,7 +69,7 @@ TEST(SchnittSteigung, SlopesAndTheVerticalAsGross) {
 
 TEST(SchnittGeradeKreis, TheFirstSolutionLiesAheadAlongTheLine) {
   struct Fall { double ma, mb, r, pa, pb, da, db, e1a, e1b, e2a, e2b; };
-  for (const Fall f :
+  for (const Fall& f :
        {Fall{0, 0, 5, -10, 3, 1, 0, 4.0, 3.0, -4.0, 3.0},
         Fall{10, 20, 13, 0, 0, 3, 4, 20.62159012611179, 27.495453501482388, 5.77840987388821,
              7.704546498517617}}) {
@@ -128,7 +128,7 @@ TEST(SchnittGeradeKreis, NoDirectionChangesNothing) {
 struct KreisFall { double a1, b1, r1, a2, b2, r2, e1a, e1b, e2a, e2b; };
 
 TEST(SchnittKreisKreis, WorkedIntersectionsIncludingTouching) {
-  for (const KreisFall f :
+  for (const KreisFall& f :
        {KreisFall{0, 0, 10, 12, 5, 7, 5.760886618261684, 8.173872116171959, 9.860415156886246,
                   -1.664996376526988},
         // Touching from outside (d = r1 + r2) and from inside (d = |r1 - r2|).
@@ -176,7 +176,7 @@ TEST(SchnittKreisKreis, ExchangedCirclesGiveTheSameOrder) {
 
 TEST(SchnittKreisKreis, FailuresChangeNothing) {
   struct Fall { double a1, b1, r1, a2, b2, r2; const char* was; };
-  for (const Fall f : {Fall{0, 0, 3, 10, 0, 4, "apart"}, Fall{0, 0, 10, 1, 0, 2, "inside"},
+  for (const Fall& f : {Fall{0, 0, 3, 10, 0, 4, "apart"}, Fall{0, 0, 10, 1, 0, 2, "inside"},
                        Fall{0, 0, 0, 3, 0, 3, "r1 = 0"}, Fall{0, 0, 3, 3, 0, 0, "r2 = 0"},
                        Fall{4, 4, 3, 4, 4, 3, "same centre"}}) {
     double a1 = f.a1, b1 = f.b1, a2 = f.a2, b2 = f.b2;
@@ -190,7 +190,7 @@ TEST(SchnittKreisKreis, FailuresChangeNothing) {
 
 TEST(TangentenRechnen, TouchingPointsAndLength) {
   struct Fall { double ma, mb, r, pa, pb, e1a, e1b, e2a, e2b, t; };
-  for (const Fall f :
+  for (const Fall& f :
        {Fall{0, 0, 5, 10, 0, 2.5000000017762485, -4.330127021998748, 2.4999999982237524,
              4.330127015845644, 8.660254037844387},
         Fall{3, -2, 4, -5, 7, 4.937113109638757, 1.499656097456672, -0.7026303510180671,
@@ -226,7 +226,7 @@ TEST(TangentenRechnen, APointOnOrInsideTheCircleZeroesEverything) {
 
 TEST(UmkreisRechnen, CentreAndRadius) {
   struct Fall { double a1, b1, a2, b2, a3, b3, ma, mb, r; };
-  for (const Fall f : {Fall{0, 0, 4, 0, 0, 3, 2.0, 1.5, 2.5},
+  for (const Fall& f : {Fall{0, 0, 4, 0, 0, 3, 2.0, 1.5, 2.5},
                        Fall{1, 2, 7, -1, 4, 6, 4.863636363636363, 2.227272727272727,
                             3.870315083165091}}) {
     double ma = 0, mb = 0, r = 0;
@@ -241,7 +241,7 @@ TEST(UmkreisRechnen, CentreAndRadius) {
 
 TEST(UmkreisRechnen, CollinearOrCoincidentPointsGiveFalseAndZero) {
   struct Fall { double a1, b1, a2, b2, a3, b3; };
-  for (const Fall f : {Fall{0, 0, 1, 1, 2, 2}, Fall{3, 3, 3, 3, 5, 1}, Fall{0, 0, 4, 1, 4, 1},
+  for (const Fall& f : {Fall{0, 0, 1, 1, 2, 2}, Fall{3, 3, 3, 3, 5, 1}, Fall{0, 0, 4, 1, 4, 1},
                        Fall{2, 2, 2, 2, 2, 2}}) {
     double ma = 9, mb = 9, r = 9;
     EXPECT_FALSE(UmkreisRechnen(f.a1, f.b1, f.a2, f.b2, f.a3, f.b3, ma, mb, r));

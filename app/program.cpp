@@ -18,6 +18,7 @@
 #include "core/settings/einstellungen.h"
 #include "core/settings/ini_fenster.h"
 #include "core/state/zustand.h"
+#include "calc/verdrahtung.h"
 #include "points/punkte_verdrahtung.h"
 #include "quantities/lv/lv_datenbank.h"
 #include "core/main/main_form.h"
@@ -144,6 +145,7 @@ Program::Program(const Options& options, std::function<void(forms::Forms&)> extr
   anwendung_->setMain(main_);
   core::KernBefehleVerbinden(*main_, *anwendung_);
   points::PunkteBefehleVerbinden(*main_, *anwendung_);
+  calc::RechnenVerbinden(*main_, *anwendung_);
   window_ = std::make_unique<shell::MainWindow>(*main_);
   host_ = std::make_unique<shell::QtHost>(window_->mdiArea(), window_.get());
   host_->registerWindow("Main", [this](forms::Form&) -> QWidget* { return window_.get(); });
@@ -212,6 +214,7 @@ void Program::registerForms() {
   core::RegisterMainForms(*forms_, programmVerzeichnis_ + "hilfe");
   core::KernFormulareRegistrieren(*forms_, *anwendung_);
   points::PunkteFormulareRegistrieren(*forms_, *anwendung_);
+  calc::RechnenRegistrieren(*forms_, *anwendung_);
   forms_->registerForm("Intro", [this](forms::Forms& f) {
     return std::make_unique<core::IntroForm>(f, nullptr);
   });

@@ -1,6 +1,10 @@
 #include "calc/verdrahtung.h"
 
+#include "calc/anschluss/verdrahtung.h"
 #include "calc/distanz.h"
+#include "calc/geraden/verdrahtung.h"
+#include "calc/kreise/verdrahtung.h"
+#include "calc/schnitt/verdrahtung.h"
 #include "core/app/anwendung.h"
 #include "core/main/main_form.h"
 
@@ -8,12 +12,20 @@ namespace kolm::calc {
 
 void RechnenRegistrieren(forms::Forms& forms, core::Anwendung& anwendung) {
   forms.registerForm("Distanz", [&anwendung](forms::Forms& f) { return std::make_unique<DistanzForm>(f, anwendung); });
+  AnschlussDialogeRegistrieren(forms, anwendung);
+  SchnittDialogeRegistrieren(forms, anwendung);
+  KreisDialogeRegistrieren(forms, anwendung);
+  GeradenDialogeRegistrieren(forms, anwendung);
 }
 
 void RechnenVerbinden(core::MainForm& main, core::Anwendung& anwendung) {
   forms::Forms& forms = anwendung.forms();
   // Showing a loaded dialog again brings it to the front with its fields.
   main.setCommand("MnuGerDist", [&forms] { forms.show("Distanz"); });
+  AnschlussDialogeVerbinden(main, anwendung);
+  SchnittDialogeVerbinden(main, anwendung);
+  KreisDialogeVerbinden(main, anwendung);
+  GeradenDialogeVerbinden(main, anwendung);
 }
 
 }  // namespace kolm::calc

@@ -1,8 +1,21 @@
 #include "calc/kreise/verdrahtung.h"
 
+#include <memory>
+
+#include "calc/kreise/kreis_kreis.h"
+#include "core/app/anwendung.h"
+#include "core/main/main_form.h"
+
 namespace kolm::calc {
 
-void KreisDialogeRegistrieren(forms::Forms&, core::Anwendung&) {}
-void KreisDialogeVerbinden(core::MainForm&, core::Anwendung&) {}
+void KreisDialogeRegistrieren(forms::Forms& forms, core::Anwendung& anwendung) {
+  forms.registerForm("KreisKreis",
+                     [&anwendung](forms::Forms& f) { return std::make_unique<KreisKreisForm>(f, anwendung); });
+}
+
+void KreisDialogeVerbinden(core::MainForm& main, core::Anwendung& anwendung) {
+  forms::Forms& forms = anwendung.forms();
+  main.setCommand("MnuKreisKreisKreis", [&forms] { forms.show("KreisKreis"); });
+}
 
 }  // namespace kolm::calc

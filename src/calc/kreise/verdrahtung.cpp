@@ -3,6 +3,7 @@
 #include <memory>
 
 #include "calc/kreise/kreis_kreis.h"
+#include "calc/kreise/kreis_tangenten.h"
 #include "core/app/anwendung.h"
 #include "core/main/main_form.h"
 
@@ -11,11 +12,14 @@ namespace kolm::calc {
 void KreisDialogeRegistrieren(forms::Forms& forms, core::Anwendung& anwendung) {
   forms.registerForm("KreisKreis",
                      [&anwendung](forms::Forms& f) { return std::make_unique<KreisKreisForm>(f, anwendung); });
+  forms.registerForm("KreisTangenten",
+                     [&anwendung](forms::Forms& f) { return std::make_unique<KreisTangentenForm>(f, anwendung); });
 }
 
 void KreisDialogeVerbinden(core::MainForm& main, core::Anwendung& anwendung) {
   forms::Forms& forms = anwendung.forms();
   main.setCommand("MnuKreisKreisKreis", [&forms] { forms.show("KreisKreis"); });
+  main.setCommand("MnuKreisTangenten", [&forms] { forms.show("KreisTangenten"); });
 }
 
 }  // namespace kolm::calc

@@ -3,6 +3,7 @@
 #include <memory>
 
 #include "calc/anschluss/direkter_anschluss.h"
+#include "calc/anschluss/indirekter_anschluss.h"
 #include "calc/anschluss/winkel_zwischen3.h"
 #include "core/app/anwendung.h"
 #include "core/main/main_form.h"
@@ -14,6 +15,8 @@ void AnschlussDialogeRegistrieren(forms::Forms& forms, core::Anwendung& anwendun
                      [&anwendung](forms::Forms& f) { return std::make_unique<WinkelZwischen3Form>(f, anwendung); });
   forms.registerForm("DirekterAnschluß",
                      [&anwendung](forms::Forms& f) { return std::make_unique<DirekterAnschlussForm>(f, anwendung); });
+  forms.registerForm("IndirekterAnschluß",
+                     [&anwendung](forms::Forms& f) { return std::make_unique<IndirekterAnschlussForm>(f, anwendung); });
 }
 
 void AnschlussDialogeVerbinden(core::MainForm& main, core::Anwendung& anwendung) {
@@ -22,6 +25,7 @@ void AnschlussDialogeVerbinden(core::MainForm& main, core::Anwendung& anwendung)
   main.setCommand("MnuGerWinkel", [&forms] { forms.show("WinkelZwischen3"); });
   // The entry's name is spelled so, with "ss".
   main.setCommand("MnuGerDirekterAnsschluß", [&forms] { forms.show("DirekterAnschluß"); });
+  main.setCommand("MnuGerIndirekterAnschluß", [&forms] { forms.show("IndirekterAnschluß"); });
 }
 
 }  // namespace kolm::calc

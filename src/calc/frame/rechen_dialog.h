@@ -87,6 +87,10 @@ class RechenDialog : public forms::Form {
 
   void Load() override;
 
+  // Letter keys of a number field: store into or take from the variables.
+  // Dialogs with number fields of their own (not Param) hand their keys here.
+  void ParamTaste(forms::Control& feld, forms::EventArgs& args);
+
  private:
   struct Eingang {
     std::string name;  // `PP1`, `G1P1`
@@ -101,7 +105,6 @@ class RechenDialog : public forms::Form {
   void NummerGeaendert(int eingabe);
   void ErgebnisBeschriften();
   void ErgebnisZeigen(Ausgang& aus);
-  void ParamTaste(forms::Control& feld, forms::EventArgs& args);
   void EingabenRechtwinklig(bool hin);
   int ErgebnisVonIndex(int index) const;
 

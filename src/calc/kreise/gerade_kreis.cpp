@@ -89,7 +89,7 @@ GeradeKreisForm::GeradeKreisForm(forms::Forms& forms, core::Anwendung& anwendung
     on("TextG1_" + n, Event::GotFocus, [](forms::Control& feld, forms::EventArgs&) {
       feld.setSelection(0, static_cast<int>(feld.text().size()));
     });
-    on("TextG1_" + n, Event::KeyPress, [this](forms::Control& feld, forms::EventArgs& args) { FeldTaste(feld, args); });
+    on("TextG1_" + n, Event::KeyPress, [this](forms::Control& feld, forms::EventArgs& args) { ParamTaste(feld, args); });
     on("TextG1_" + n, Event::Change, [this](forms::Control&, forms::EventArgs&) {
       control("Berechnen").setDefault(true);
     });
@@ -122,21 +122,6 @@ void GeradeKreisForm::GeradeGewaehlt() {
     control("LabelG1_" + n).setCaption(texte[k] ? texte[k] : "");
     control("LabelG1_" + n).setVisible(texte[k] != nullptr);
     control("TextG1_" + n).setVisible(texte[k] != nullptr);
-  }
-}
-
-void GeradeKreisForm::FeldTaste(forms::Control& feld, forms::EventArgs& args) {
-  std::string text = feld.text();
-  switch (points::VariablenTaste(zustand(), args.keyAscii, text)) {
-    case points::VariablenWirkung::Eingesetzt:
-      feld.setText(text);
-      feld.setSelection(static_cast<int>(text.size()), 0);
-      break;
-    case points::VariablenWirkung::Gespeichert:
-      anwendung().RefreshVariablen();
-      break;
-    case points::VariablenWirkung::Keine:
-      break;
   }
 }
 

@@ -21,7 +21,6 @@ class GeradeKreisForm : public RechenDialog {
 
  private:
   void GeradeGewaehlt();
-  void FeldTaste(forms::Control& feld, forms::EventArgs& args);
 };
 
 }  // namespace kolm::calc

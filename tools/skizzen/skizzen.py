@@ -335,8 +335,113 @@ def umkreis_mittelpunkt():
     return s
 
 
+def _schnitt(a, b, c, d):
+    """Schnittpunkt der Geraden a-b und c-d."""
+    r = (b[0] - a[0], b[1] - a[1])
+    q = (d[0] - c[0], d[1] - c[1])
+    det = r[0] * q[1] - r[1] * q[0]
+    t = ((c[0] - a[0]) * q[1] - (c[1] - a[1]) * q[0]) / det
+    return a[0] + r[0] * t, a[1] + r[1] * t
+
+
+def _gerade(s, a, b, name, von=-0.35, bis=1.45, farbe=SCHWARZ, strich=False):
+    p = mitte(a, b, von)
+    q = mitte(a, b, bis)
+    s.linie(p, q, farbe, 1.6, strich=strich)
+    s.text(versetzt(p, q, 12, 0.97), name, farbe, 15, kursiv=True)
+
+
+def geradenschnitt():
+    s = Skizze("geradenschnitt")
+    p1, p2, p3, p4 = (40, 60), (140, 110), (80, 220), (150, 150)
+    _gerade(s, p1, p2, "g1", bis=2.9)
+    _gerade(s, p3, p4, "g2", bis=2.6)
+    s.punkt(p1, "P1", 270)
+    s.punkt(p2, "P2", 270)
+    s.punkt(p3, "P3", 180)
+    s.punkt(p4, "P4", 180)
+    s.punkt(_schnitt(p1, p2, p3, p4), "S", 0, neu=True)
+    return s
+
+
+def rechtwinkliger_geradenschnitt():
+    s = Skizze("rechtwinkliger_geradenschnitt")
+    p1, p2, p = (40, 70), (180, 120), (170, 220)
+    _gerade(s, p1, p2, "g", von=-0.2, bis=2.2)
+    r = (p2[0] - p1[0], p2[1] - p1[1])
+    f = _schnitt(p1, p2, p, (p[0] - r[1], p[1] + r[0]))
+    s.linie(p, f, BLAU, 1.6)
+    # Zeichen fuer den rechten Winkel
+    l = math.hypot(*r)
+    u = (r[0] / l * 12, r[1] / l * 12)
+    v = ((p[0] - f[0]) / math.dist(p, f) * 12, (p[1] - f[1]) / math.dist(p, f) * 12)
+    s.linie((f[0] + u[0], f[1] + u[1]), (f[0] + u[0] + v[0], f[1] + u[1] + v[1]), BLAU, 1.2)
+    s.linie((f[0] + v[0], f[1] + v[1]), (f[0] + u[0] + v[0], f[1] + u[1] + v[1]), BLAU, 1.2)
+    s.punkt(p1, "P1", 270)
+    s.punkt(p2, "P2", 300)
+    s.punkt(p, "P", 90)
+    s.punkt(f, "S", 300, neu=True)
+    return s
+
+
+def parallelen_schnitt():
+    s = Skizze("parallelen_schnitt")
+    p1, p2 = (30, 40), (130, 75)
+    p3, p4 = (300, 30), (260, 110)
+    p = (60, 160)
+    _gerade(s, p1, p2, "g1", von=-0.1, bis=2.2)
+    _gerade(s, p3, p4, "g2", von=-0.1, bis=2.7)
+    r = (p2[0] - p1[0], p2[1] - p1[1])
+    st = _schnitt(p, (p[0] + r[0], p[1] + r[1]), p3, p4)
+    s.linie(mitte(p, st, -0.15), mitte(p, st, 1.2), BLAU, 1.6, strich=True)
+    s.pfeil(p1, p2, SCHWARZ, 7)
+    s.pfeil(p, mitte(p, st, 0.35), BLAU, 0)
+    s.punkt(p1, "P1", 270)
+    s.punkt(p2, "P2", 270)
+    s.punkt(p3, "P3", 0)
+    s.punkt(p4, "P4", 0)
+    s.punkt(p, "P", 90)
+    s.punkt(st, "S", 60, neu=True)
+    return s
+
+
+def einrechnen():
+    s = Skizze("einrechnen")
+    a, e = (50, 60), (200, 130)
+    n = mitte(a, e, 1.45)
+    s.linie(mitte(a, e, -0.2), mitte(a, e, 1.7), GRAU, 1.2, strich=True)
+    s.linie(a, e, SCHWARZ, 1.6)
+    s.pfeil(a, n, BLAU, 7)
+    s.text(versetzt(a, n, 14, 0.75), "e", BLAU, 15, kursiv=True)
+    s.punkt(a, "A", 270)
+    s.punkt(e, "E", 300)
+    s.punkt(n, "N", 300, neu=True)
+    return s
+
+
+def kleinpunkte():
+    s = Skizze("kleinpunkte")
+    a, e = (30, 40), (130, 75)
+    _gerade(s, a, e, "g", von=-0.05, bis=1.6)
+    s.pfeil(a, e, SCHWARZ, 7)
+    p = (215, 150)
+    d = math.dist(a, e)
+    u = ((e[0] - a[0]) / d, (e[1] - a[1]) / d)
+    n = (-u[1], u[0])
+    for (vx, vy), name, lage in ((u, "vorwärts", 0), ((-u[0], -u[1]), "zurück", 0),
+                                 (n, "links", 0), ((-n[0], -n[1]), "rechts", 0)):
+        z = (p[0] + vx * 75, p[1] + vy * 75)
+        s.pfeil(p, z, BLAU, 0)
+        s.text((p[0] + vx * 95, p[1] + vy * 92), name, BLAU, 13)
+    s.punkt(a, "A", 270)
+    s.punkt(e, "E", 270)
+    s.punkt(p, "P", 200)
+    return s
+
+
 SKIZZEN = [distanz, winkel_zwischen3, direkter_anschluss, indirekter_anschluss, vorwaertsschnitt,
-           rueckwaertsschnitt, kreis_kreis, gerade_kreis, kreis_tangenten, umkreis_mittelpunkt]
+           rueckwaertsschnitt, kreis_kreis, gerade_kreis, kreis_tangenten, umkreis_mittelpunkt, geradenschnitt,
+           rechtwinkliger_geradenschnitt, parallelen_schnitt, einrechnen, kleinpunkte]
 
 
 def main():

@@ -3,13 +3,10 @@
 // circle.
 #include <string>
 
+#include "calc/frame/gerade_auswahl.h"
 #include "calc/frame/rechen_dialog.h"
 
 namespace kolm::calc {
-
-// The nine ways of giving a line: what they make of its two point records
-// from the entry and the two fields' values.
-void GeradeAuswerten(const core::Zustand& z, int eintrag, core::Punkt& p1, core::Punkt& p2, double t1, double t2);
 
 class GeradeKreisForm : public RechenDialog {
  public:
@@ -20,7 +17,7 @@ class GeradeKreisForm : public RechenDialog {
   bool Rechnen() override;
 
  private:
-  void GeradeGewaehlt();
+  GeradeAuswahl gerade1_{*this, 1};
 };
 
 }  // namespace kolm::calc

@@ -1,8 +1,21 @@
 #include "calc/geraden/verdrahtung.h"
 
+#include <memory>
+
+#include "calc/geraden/geradenschnitt.h"
+#include "core/app/anwendung.h"
+#include "core/main/main_form.h"
+
 namespace kolm::calc {
 
-void GeradenDialogeRegistrieren(forms::Forms&, core::Anwendung&) {}
-void GeradenDialogeVerbinden(core::MainForm&, core::Anwendung&) {}
+void GeradenDialogeRegistrieren(forms::Forms& forms, core::Anwendung& anwendung) {
+  forms.registerForm("FormGeradenschnitt",
+                     [&anwendung](forms::Forms& f) { return std::make_unique<GeradenschnittForm>(f, anwendung); });
+}
+
+void GeradenDialogeVerbinden(core::MainForm& main, core::Anwendung& anwendung) {
+  forms::Forms& forms = anwendung.forms();
+  main.setCommand("MnuGer4Pkt", [&forms] { forms.show("FormGeradenschnitt"); });
+}
 
 }  // namespace kolm::calc

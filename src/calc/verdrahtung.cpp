@@ -2,6 +2,7 @@
 
 #include "calc/anschluss/verdrahtung.h"
 #include "calc/distanz.h"
+#include "calc/einrechnen/verdrahtung.h"
 #include "calc/geraden/verdrahtung.h"
 #include "calc/kreise/verdrahtung.h"
 #include "calc/schnitt/verdrahtung.h"
@@ -16,6 +17,7 @@ void RechnenRegistrieren(forms::Forms& forms, core::Anwendung& anwendung) {
   SchnittDialogeRegistrieren(forms, anwendung);
   KreisDialogeRegistrieren(forms, anwendung);
   GeradenDialogeRegistrieren(forms, anwendung);
+  EinrechnenDialogeRegistrieren(forms, anwendung);
 }
 
 void RechnenVerbinden(core::MainForm& main, core::Anwendung& anwendung) {
@@ -26,6 +28,7 @@ void RechnenVerbinden(core::MainForm& main, core::Anwendung& anwendung) {
   SchnittDialogeVerbinden(main, anwendung);
   KreisDialogeVerbinden(main, anwendung);
   GeradenDialogeVerbinden(main, anwendung);
+  EinrechnenDialogeVerbinden(main, anwendung);
 }
 
 }  // namespace kolm::calc

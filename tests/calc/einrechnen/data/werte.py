@@ -50,3 +50,4 @@ for wie in ("vor", "zurueck", "links", "rechts"):
 q = schritt((10, 10), (3, 4), 5)
 print("Kleinpunkte vor 5 then links 5:", "%.6f %.6f" % schritt(q, gedreht((3, 4), "links"), 5))
 print("Kleinpunkte Winkel 380 gon vor 10 from (0,0):", "%.6f %.6f" % schritt((0, 0), winkel_richtung(380, False), 10))
+print("Kleinpunkte A=P=(20,30) E=(3,4) vor -10:", "%.6f %.6f" % schritt((20, 30), (3 - 20, 4 - 30), -10))

@@ -1,0 +1,210 @@
+// Kleinpunkte: from P a distance along the line A-E, against it, to its
+// left or right, each result the next P. Expected values: data/werte.py.
+#include <string>
+
+#include "einrechnen_umgebung.h"
+#include "forms/keys.h"
+
+namespace kolm::calc::testing {
+namespace {
+
+struct KleinpunkteTest : ::testing::Test {
+  EinrechnenUmgebung u;
+  RechenDialog& oeffnen() { return u.oeffnen("MnuGerKleinPunkte", "Kleinpunkte"); }
+  // The line from point 1 (0, 0) to point 2 (3, 4), P = point 3 (10, 10).
+  RechenDialog& gefuellt() {
+    u.punkt(1, 0, 0);
+    u.punkt(2, 3, 4);
+    u.punkt(3, 10, 10, 2);
+    RechenDialog& d = oeffnen();
+    d.control("G1P1Nr").setText("1");
+    d.control("G1P2Nr").setText("2");
+    d.control("PP1Nr").setText("3");
+    d.control("Param", 0).setText("5");
+    return d;
+  }
+};
+
+TEST_F(KleinpunkteTest, TheMenuOpensItWithTheLineAndTheFourWays) {
+  RechenDialog& d = oeffnen();
+  EXPECT_EQ(d.control("Gerade1").captionText(), "Gerade g");
+  EXPECT_EQ(d.control("Punkt1").captionText(), "Ausgangspunkt P");
+  EXPECT_EQ(d.control("LabelG1P1Nr").captionText(), "&A Nr.:");
+  EXPECT_EQ(d.control("Label", 0).captionText(), "&Distanz: e=");
+  ASSERT_EQ(d.control("ComboGerade1").listCount(), 8);
+  EXPECT_EQ(d.control("ComboGerade1").list()[6], "Senkrecht durch A");
+  EXPECT_EQ(d.control("OptionRichtung", 0).captionText(), "&vorwärts");
+  EXPECT_EQ(d.control("OptionRichtung", 1).captionText(), "&zurück");
+  EXPECT_EQ(d.control("OptionRichtung", 2).captionText(), "&links");
+  EXPECT_EQ(d.control("OptionRichtung", 3).captionText(), "&rechts");
+  EXPECT_EQ(d.control("OptionRichtung", 0).value(), 1);
+}
+
+TEST_F(KleinpunkteTest, TheFourWaysFromP) {
+  struct Fall {
+    int richtung;
+    double a, b;
+  };
+  for (const Fall f : {Fall{0, 13, 14}, Fall{1, 7, 6}, Fall{2, 6, 13}, Fall{3, 14, 7}}) {
+    EinrechnenUmgebung v;
+    v.punkt(1, 0, 0);
+    v.punkt(2, 3, 4);
+    v.punkt(3, 10, 10);
+    RechenDialog& d = v.oeffnen("MnuGerKleinPunkte", "Kleinpunkte");
+    d.control("G1P1Nr").setText("1");
+    d.control("G1P2Nr").setText("2");
+    d.control("PP1Nr").setText("3");
+    d.control("Param", 0).setText("5");
+    d.control("OptionRichtung", f.richtung).click();
+    d.control("Berechnen").click();
+    EXPECT_TRUE(v.meldungen().empty());
+    EXPECT_NEAR(d.Ergebnis().A, f.a, 1e-6) << f.richtung;
+    EXPECT_NEAR(d.Ergebnis().B, f.b, 1e-6) << f.richtung;
+  }
+}
+
+TEST_F(KleinpunkteTest, EachResultIsTheNextStart) {
+  RechenDialog& d = gefuellt();
+  d.control("Berechnen").click();
+  EXPECT_EQ(d.control("ErgA").captionText(), "13.000");
+  EXPECT_EQ(d.control("ErgB").captionText(), "14.000");
+  EXPECT_EQ(d.control("LabelA").captionText(), "X =");
+  EXPECT_EQ(d.control("PktNr").text(), "4");
+  EXPECT_EQ(d.Ergebnis().C, 0) << "P's height is not taken over";
+  EXPECT_EQ(d.control("PP1Nr").text(), "");
+  EXPECT_EQ(d.Eingabe(2).Nummer, -1);
+  EXPECT_NE(d.control("PP1").captionText().find("13.000"), std::string::npos);
+  d.control("OptionRichtung", 2).click();
+  d.control("Berechnen").click();
+  EXPECT_NEAR(d.Ergebnis().A, 9, 1e-6);
+  EXPECT_NEAR(d.Ergebnis().B, 17, 1e-6);
+}
+
+TEST_F(KleinpunkteTest, ANumberForAIsAlsoP) {
+  u.punkt(1, 0, 0);
+  u.punkt(3, 10, 10);
+  RechenDialog& d = oeffnen();
+  d.control("PP1Nr").setText("3");
+  d.control("G1P1Nr").setText("1");
+  EXPECT_EQ(d.control("PP1Nr").text(), "1");
+  EXPECT_EQ(d.Eingabe(2).A, 0);
+  EXPECT_EQ(d.Eingabe(2).Nummer, 1);
+}
+
+TEST_F(KleinpunkteTest, AByHandIsCopiedToP) {
+  u.punkt(2, 3, 4);
+  RechenDialog& d = oeffnen();
+  u.host.onModal([](forms::Form& f) {
+    f.control("TextA").setText("20");
+    f.control("TextB").setText("30");
+    f.control("OK").click();
+  });
+  d.control("GetG1P1").click();
+  EXPECT_EQ(d.Eingabe(2).A, 20);
+  EXPECT_EQ(d.Eingabe(2).B, 30);
+  EXPECT_EQ(d.control("PP1").captionText(), d.control("G1P1").captionText());
+  EXPECT_EQ(d.control("PP1Nr").text(), "");
+  d.control("G1P2Nr").setText("2");
+  d.control("Param", 0).setText("-10");
+  d.control("Berechnen").click();
+  // From A = P = (20, 30) ten against the way to E = (3, 4): away from E
+  EXPECT_NEAR(d.Ergebnis().A, 25.472494, 1e-6);
+  EXPECT_NEAR(d.Ergebnis().B, 38.369696, 1e-6);
+}
+
+TEST_F(KleinpunkteTest, AKeyInTheDistanceOrAWayChosenMakesBerechnenTheDefault) {
+  RechenDialog& d = gefuellt();
+  d.control("Berechnen").click();
+  d.control("PktNr").setText("11");
+  ASSERT_TRUE(d.control("Speichern").isDefault());
+  forms::Control& feld = d.control("Param", 0);
+  d.sendKey(feld, forms::keys::KeyCodeOfChar('7'), 0, U'7');
+  EXPECT_TRUE(d.control("Berechnen").isDefault());
+  d.control("PktNr").setText("12");
+  ASSERT_TRUE(d.control("Speichern").isDefault());
+  d.control("OptionRichtung", 3).click();
+  EXPECT_TRUE(d.control("Berechnen").isDefault());
+}
+
+TEST_F(KleinpunkteTest, AnAngleOfThreeQuartersOrMoreRunsTowardPositiveA) {
+  u.punkt(1, 0, 0);
+  RechenDialog& d = oeffnen();
+  d.control("ComboGerade1").setListIndex(4);
+  d.control("G1P1Nr").setText("1");
+  d.control("TextG1_1").setText("380");
+  d.control("Param", 0).setText("10");
+  d.control("Berechnen").click();
+  EXPECT_NEAR(d.Ergebnis().A, 9.510565, 1e-6);
+  EXPECT_NEAR(d.Ergebnis().B, -3.090170, 1e-6);
+}
+
+TEST_F(KleinpunkteTest, StoresUnderTheOfferedNumberAndAsksForAUsedOne) {
+  RechenDialog& d = gefuellt();
+  d.control("Berechnen").click();
+  ASSERT_EQ(d.control("PktNr").text(), "4");
+  d.control("Speichern").click();
+  EXPECT_NEAR(u.zustand.Punkte[4].A, 13, 1e-6);
+  d.control("OptionRichtung", 3).click();
+  d.control("Berechnen").click();  // from (13, 14) to the right: (17, 11)
+  d.control("PktNr").setText("4");
+  u.dienste.messages.queue(forms::Answer::No);
+  d.control("Speichern").click();
+  ASSERT_EQ(u.meldungen().size(), 1u);
+  EXPECT_NEAR(u.zustand.Punkte[4].A, 13, 1e-6);
+  u.dienste.messages.queue(forms::Answer::Yes);
+  d.control("Speichern").click();
+  EXPECT_NEAR(u.zustand.Punkte[4].A, 17, 1e-6);
+  EXPECT_NEAR(u.zustand.Punkte[4].B, 11, 1e-6);
+}
+
+TEST_F(KleinpunkteTest, UnderM31OnlyTheCaptionsChange) {
+  u.zustand.M31 = core::Wahr;
+  RechenDialog& d = gefuellt();
+  d.control("OptionRichtung", 2).click();
+  d.control("Berechnen").click();
+  EXPECT_EQ(d.control("LabelA").captionText(), "Y =");
+  EXPECT_EQ(d.control("LabelB").captionText(), "X =");
+  EXPECT_NEAR(d.Ergebnis().A, 6, 1e-6) << "left on the plane as drawn";
+  EXPECT_NEAR(d.Ergebnis().B, 13, 1e-6);
+}
+
+TEST_F(KleinpunkteTest, APolarTableGivesAPolarPAndSendsTheLineBack) {
+  u.zustand.Polar = core::Wahr;
+  u.polarPunkt(1, 30, 40);
+  u.polarPunkt(2, 90, 120);
+  RechenDialog& d = oeffnen();
+  d.control("G1P1Nr").setText("1");  // P starts at A
+  d.control("G1P2Nr").setText("2");
+  d.control("Param", 0).setText("50");
+  d.control("Berechnen").click();
+  EXPECT_EQ(d.control("LabelA").captionText(), "e =");
+  EXPECT_NEAR(d.Ergebnis().A, 100, 1e-6);
+  EXPECT_NEAR(d.Ergebnis().B, 59.033447052, 1e-6);
+  EXPECT_NEAR(d.Eingabe(0).A, 50, 1e-9);
+  EXPECT_NEAR(d.Eingabe(1).A, 150, 1e-9);
+  EXPECT_NEAR(d.Eingabe(2).A, 100, 1e-6) << "P holds the polar result";
+  EXPECT_NEAR(d.Eingabe(2).B, 59.033447052, 1e-6);
+  d.control("Berechnen").click();
+  EXPECT_NEAR(d.Ergebnis().A, 150, 1e-6);
+}
+
+TEST_F(KleinpunkteTest, WithoutADirectionTheMessageAndAPolarPStaysRectangular) {
+  u.zustand.Polar = core::Wahr;
+  u.polarPunkt(1, 30, 40);
+  RechenDialog& d = oeffnen();
+  d.control("G1P1Nr").setText("1");
+  d.control("G1P2Nr").setText("1");
+  d.control("Param", 0).setText("5");
+  d.control("Berechnen").click();
+  ASSERT_EQ(u.meldungen().size(), 1u);
+  EXPECT_EQ(u.meldungen()[0].message.text, "Kein Einrechnen möglich, da keine Richtung vorhanden ist!");
+  EXPECT_EQ(u.meldungen()[0].message.title, d.caption());
+  EXPECT_EQ(u.meldungen()[0].message.icon, forms::Icon::Exclamation);
+  EXPECT_EQ(d.control("ErgA").captionText(), "");
+  EXPECT_NEAR(d.Eingabe(2).A, 30, 1e-9);
+  EXPECT_NEAR(d.Eingabe(2).B, 40, 1e-9);
+  EXPECT_NEAR(d.Eingabe(0).A, 50, 1e-9) << "A goes back";
+}
+
+}  // namespace
+}  // namespace kolm::calc::testing

@@ -1,5 +1,6 @@
 #include "core/main/help_forms.h"
 
+#include <filesystem>
 #include <fstream>
 #include <sstream>
 
@@ -33,13 +34,47 @@ const std::vector<HelpTopic>& HelpTopics() {
 namespace {
 
 // Topic names come from forms and buttons; anything that could leave the
-// help folder is no topic.
+// help folder is no topic. Letters beyond ASCII (ä, ö, ü, ß of the form
+// names) are whole UTF-8 sequences: none of their bytes is a '/' or '.'.
 bool IsTopicName(const std::string& topic) {
   if (topic.empty()) return false;
-  for (char c : topic)
-    if (!((c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '_' || c == '-'))
-      return false;
+  for (size_t i = 0; i < topic.size(); ++i) {
+    const auto c = static_cast<unsigned char>(topic[i]);
+    if ((c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '_' || c == '-')
+      continue;
+    const size_t folge = (c >= 0xC2 && c <= 0xDF) ? 1 : (c >= 0xE0 && c <= 0xEF) ? 2 : (c >= 0xF0 && c <= 0xF4) ? 3 : 0;
+    if (folge == 0 || i + folge >= topic.size()) return false;
+    for (size_t k = 1; k <= folge; ++k)
+      if ((static_cast<unsigned char>(topic[i + k]) & 0xC0) != 0x80) return false;
+    i += folge;
+  }
   return true;
+}
+
+// Pictures of a page name their file relative to the help folder
+// (src="skizzen/x.png"); the page is shown from text, so such a source is
+// made a file URL of the help folder. Sources with a scheme or an absolute
+// path stay as they are.
+std::string BilderAusDemHilfeOrdner(const std::string& html, const std::string& dir) {
+  std::error_code fehler;
+  std::string basis = std::filesystem::absolute(std::filesystem::path(dir), fehler).generic_string();
+  if (fehler) basis = dir;
+  if (basis.empty() || basis.front() != '/') basis = "/" + basis;
+  std::string out;
+  size_t pos = 0;
+  static const std::string kSrc = "src=\"";
+  for (size_t hit; (hit = html.find(kSrc, pos)) != std::string::npos;) {
+    const size_t start = hit + kSrc.size();
+    const size_t ende = html.find('"', start);
+    out.append(html, pos, start - pos);
+    pos = start;
+    if (ende == std::string::npos) break;
+    const std::string ziel = html.substr(start, ende - start);
+    if (!ziel.empty() && ziel.front() != '/' && ziel.find(':') == std::string::npos)
+      out += "file://" + basis + "/";
+  }
+  out.append(html, pos, std::string::npos);
+  return out;
 }
 
 std::string Escape(const std::string& text) {
@@ -96,7 +131,7 @@ std::string HilfeForm::page(const std::string& topic) const {
     if (in) {
       std::ostringstream text;
       text << in.rdbuf();
-      if (!text.str().empty()) return text.str();
+      if (!text.str().empty()) return BilderAusDemHilfeOrdner(text.str(), dir_);
     }
   }
   return "<html><body><h1>Hilfethema nicht gefunden</h1>"

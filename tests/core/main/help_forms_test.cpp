@@ -120,6 +120,47 @@ TEST_F(HelpFixture, AMissingTopicSaysSo) {
   EXPECT_NE(shown().find("&lt;b&gt;"), std::string::npos);
 }
 
+TEST_F(HelpFixture, TopicsWithUmlautsAndSharpSReachTheirPages) {
+  // Calculation dialogs are named so and open their sketch by that name.
+  write("Rückwärtsschnitt", "<h1>Rückwärtsschnitt</h1>");
+  write("DirekterAnschluß", "<h1>Direkter Anschluß</h1>");
+  help.showTopic("Rückwärtsschnitt");
+  EXPECT_NE(shown().find("<h1>Rückwärtsschnitt</h1>"), std::string::npos);
+  EXPECT_EQ(hilfe().currentTopic(), "Rückwärtsschnitt");
+  help.showTopic("DirekterAnschluß");
+  EXPECT_NE(shown().find("<h1>Direkter Anschluß</h1>"), std::string::npos);
+
+  // Only whole UTF-8 letters: a cut sequence or a stray byte is no name.
+  help.showTopic(std::string("R\xC3"));
+  EXPECT_NE(shown().find("Hilfethema nicht gefunden"), std::string::npos);
+  help.showTopic(std::string("R\xFC") + "ckw");
+  EXPECT_NE(shown().find("Hilfethema nicht gefunden"), std::string::npos);
+  help.showTopic("ü/../index");
+  EXPECT_NE(shown().find("Hilfethema nicht gefunden"), std::string::npos);
+}
+
+TEST_F(HelpFixture, PicturesOfAPageAreFoundInTheHelpFolder) {
+  write("bild", "<img src=\"skizzen/a.png\"><img src=\"http://x/b.png\"><img src=\"/abs/c.png\">");
+  help.showTopic("bild");
+  const std::string folder = fs::absolute(dir).generic_string();
+  EXPECT_NE(shown().find("src=\"file://" + folder + "/skizzen/a.png\""), std::string::npos);
+  EXPECT_NE(shown().find("src=\"http://x/b.png\""), std::string::npos);
+  EXPECT_NE(shown().find("src=\"/abs/c.png\""), std::string::npos);
+}
+
+TEST(InstalledHelp, EverySketchOfAPageIsThere) {
+  for (const auto& entry : fs::directory_iterator(InstalledHelp())) {
+    if (entry.path().extension() != ".html") continue;
+    const std::string html = ReadAll(entry.path());
+    for (size_t pos = 0; (pos = html.find("src=\"", pos)) != std::string::npos;) {
+      pos += 5;
+      const std::string bild = html.substr(pos, html.find('"', pos) - pos);
+      SCOPED_TRACE(entry.path().filename().string() + ": " + bild);
+      EXPECT_TRUE(fs::exists(InstalledHelp() / bild));
+    }
+  }
+}
+
 TEST_F(HelpFixture, CloseButtonClosesTheWindow) {
   help.showTopic("");
   hilfe().control("Cancel").click();

@@ -226,10 +226,7 @@ bool LVPositionHinzufuegen(const std::string& projektVerzeichnis, const LVPositi
 }
 
 std::string LVDatumText(const numbers::Zeitpunkt& t) {
-  char text[64];
-  std::snprintf(text, sizeof text, "%04d-%02d-%02d %02d:%02d:%02d", t.jahr, t.monat, t.tag, t.stunde, t.minute,
-                t.sekunde);
-  return text;
+  return numbers::DatumText(t, "yyyy-mm-dd hh:nn:ss");
 }
 
 std::optional<numbers::Zeitpunkt> LVDatumLesen(std::string_view text) {

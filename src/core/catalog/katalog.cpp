@@ -23,7 +23,6 @@ namespace {
 // A catalogue holds a few kilobytes; a bigger file is read only this far.
 constexpr std::size_t kMaxKatalog = 4u << 20;
 // Files larger than this are not copied: they could not be held in memory.
-constexpr std::uintmax_t kMaxKopie = 1ull << 30;
 
 std::string KatalogPfad(const Zustand& z, const char* name) { return Ordner(z.ProjektVerzeichnis) + name; }
 
@@ -237,7 +236,7 @@ bool KatalogLesen(KatalogKontext& k) {
   Zustand& z = k.zustand;
   const std::string alt = KatalogPfad(z, KatalogDateiAlt);
   const std::string neu = KatalogPfad(z, KatalogDateiNeu);
-  if (!io::FileExists(neu) && io::FileExists(alt)) DateiKopieren(alt, neu);
+  if (!io::FileExists(neu) && io::FileExists(alt)) io::CopyFileAtomically(alt, neu);
   const auto textAlt = Neuer(alt, neu) ? TextLesen(alt) : std::nullopt;
   const bool altIstNeuer = textAlt.has_value();
   const auto textNeu = TextLesen(neu);
@@ -326,14 +325,5 @@ void TabellenSortieren(Zustand& z, int buchstaben) {
   }
 }
 
-bool DateiKopieren(const std::string& quelle, const std::string& ziel) {
-  std::error_code ec;
-  if (!fs::is_regular_file(quelle, ec)) return false;
-  const std::uintmax_t groesse = fs::file_size(quelle, ec);
-  if (ec || groesse > kMaxKopie) return false;
-  const auto bytes = io::ReadFile(quelle, static_cast<std::size_t>(kMaxKopie));
-  if (!bytes) return false;
-  return io::WriteFileAtomically(ziel, *bytes);
-}
 
 }  // namespace kolm::core

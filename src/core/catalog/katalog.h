@@ -64,8 +64,5 @@ void TabellenSortieren(Zustand& z, int buchstaben);
 // A row in use: TablName is not blank.
 bool ZeileBenannt(const Tabelle& t);
 
-// Copies a file so that a failure leaves the target as it was. False when
-// the source cannot be read or the target not written.
-bool DateiKopieren(const std::string& quelle, const std::string& ziel);
 
 }  // namespace kolm::core

@@ -4,6 +4,7 @@
 
 #include "core/app/anwendung.h"
 #include "core/catalog/katalog.h"
+#include "core/io/files.h"
 #include "core/catalog/projekte.h"
 #include "core/dialogs/fortschritt.h"
 #include "core/profile/profile.h"
@@ -67,7 +68,7 @@ void ProjektKopieren(Anwendung& anwendung, const ProjektKopieAuftrag& auftrag) {
       zeigen(s.text, static_cast<double>(i + 1) / gesamt);
     }
     // A failed file is left out, as the copy goes on with the others.
-    DateiKopieren(s.quelle, s.ziel);
+    io::CopyFileAtomically(s.quelle, s.ziel);
   }
   benennen();
   zeigen("Projekt " + auftrag.name + " erstellen", 1);

@@ -73,6 +73,47 @@ bool WriteFileAtomically(const std::string& path, std::string_view bytes) {
   return ok;
 }
 
+bool CopyFileAtomically(const std::string& from, const std::string& to) {
+  const int in = ::open(from.c_str(), O_RDONLY | O_CLOEXEC);
+  if (in < 0) return false;
+  struct stat st {};
+  if (::fstat(in, &st) != 0 || !S_ISREG(st.st_mode) || Fails("open", to)) {
+    ::close(in);
+    return false;
+  }
+  const std::string temp = TemporaryNameFor(to);
+  const int out = ::open(temp.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0644);
+  if (out < 0) {
+    ::close(in);
+    return false;
+  }
+  bool ok = true;
+  char buffer[65536];
+  while (ok) {
+    const ssize_t got = ::read(in, buffer, sizeof buffer);
+    if (got < 0 && errno == EINTR) continue;
+    if (got < 0) ok = false;
+    if (got <= 0) break;
+    ssize_t done = 0;
+    while (ok && done < got) {
+      if (Fails("write", to)) {
+        ok = false;
+        break;
+      }
+      const ssize_t n = ::write(out, buffer + done, static_cast<size_t>(got - done));
+      if (n < 0 && errno == EINTR) continue;
+      if (n <= 0) ok = false;
+      else done += n;
+    }
+  }
+  ::close(in);
+  if (ok && (Fails("sync", to) || ::fsync(out) != 0)) ok = false;
+  if (::close(out) != 0) ok = false;
+  if (ok && (Fails("rename", to) || std::rename(temp.c_str(), to.c_str()) != 0)) ok = false;
+  if (!ok) ::unlink(temp.c_str());
+  return ok;
+}
+
 bool FileExists(const std::string& path) {
   struct stat st {};
   return ::stat(path.c_str(), &st) == 0 && S_ISREG(st.st_mode);

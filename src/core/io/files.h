@@ -18,6 +18,11 @@ std::optional<std::string> ReadFile(const std::string& path, std::size_t maxByte
 // the temporary file is then removed.
 bool WriteFileAtomically(const std::string& path, std::string_view bytes);
 
+// Copies a regular file of any size the same way: through a temporary file
+// beside the target, renamed over it. False (target untouched) when the
+// source is missing or no regular file, or anything failed.
+bool CopyFileAtomically(const std::string& from, const std::string& to);
+
 bool FileExists(const std::string& path);
 bool DirectoryExists(const std::string& path);
 bool RemoveFile(const std::string& path);

@@ -41,8 +41,7 @@ Dateisystem EchtesDateisystem() {
   };
   d.dateiDa = [](const std::string& p) { return io::FileExists(p); };
   d.dateiKopieren = [](const std::string& von, const std::string& nach) {
-    auto bytes = io::ReadFile(von);
-    return bytes && io::WriteFileAtomically(nach, *bytes);
+    return io::CopyFileAtomically(von, nach);
   };
   d.projektName = nullptr;  // set by whoever knows the profile files
   return d;

@@ -32,45 +32,6 @@ std::string Links(std::string_view text, int n) {
   return std::string(text.substr(0, forms::utf8::ByteOffset(text, n)));
 }
 
-// Copies a file of any size through a temporary file in the target's folder
-// and renames it over the target, so the target is never half written.
-bool DateiKopieren(const std::string& von, const std::string& nach) {
-  const int in = ::open(von.c_str(), O_RDONLY | O_CLOEXEC);
-  if (in < 0) return false;
-  struct stat st {};
-  if (::fstat(in, &st) != 0 || !S_ISREG(st.st_mode)) {
-    ::close(in);
-    return false;
-  }
-  std::string temp = nach + ".kolm-XXXXXX";
-  const int out = ::mkostemp(temp.data(), O_CLOEXEC);
-  if (out < 0) {
-    ::close(in);
-    return false;
-  }
-  bool ok = ::fchmod(out, 0644) == 0;
-  char puffer[65536];
-  while (ok) {
-    const ssize_t gelesen = ::read(in, puffer, sizeof puffer);
-    if (gelesen < 0 && errno == EINTR) continue;
-    if (gelesen < 0) ok = false;
-    if (gelesen <= 0) break;
-    ssize_t fertig = 0;
-    while (ok && fertig < gelesen) {
-      const ssize_t n = ::write(out, puffer + fertig, static_cast<size_t>(gelesen - fertig));
-      if (n < 0 && errno == EINTR) continue;
-      if (n <= 0) ok = false;
-      else fertig += n;
-    }
-  }
-  ::close(in);
-  if (ok && ::fsync(out) != 0) ok = false;
-  if (::close(out) != 0) ok = false;
-  if (ok && std::rename(temp.c_str(), nach.c_str()) != 0) ok = false;
-  if (!ok) ::unlink(temp.c_str());
-  return ok;
-}
-
 bool Offen(Database& db, const std::string& projektVerzeichnis, Database::Access zugriff) {
   const std::string pfad = LVDatei(projektVerzeichnis);
   // A regular file only: a folder or a device is never handed to SQLite.
@@ -146,7 +107,7 @@ LVVorlage LVVorlageKopieren(const std::string& projektVerzeichnis, const std::st
                   : forms::Answer::Yes;
     if (antwort == forms::Answer::Yes) return LVVorlage::Behalten;
   }
-  return DateiKopieren(muster, ziel) ? LVVorlage::Kopiert : LVVorlage::Fehlgeschlagen;
+  return io::CopyFileAtomically(muster, ziel) ? LVVorlage::Kopiert : LVVorlage::Fehlgeschlagen;
 }
 
 bool LVAktualisieren(const std::string& projektVerzeichnis, forms::StatusLine* status) {
@@ -156,7 +117,7 @@ bool LVAktualisieren(const std::string& projektVerzeichnis, forms::StatusLine* s
   if (LVAccessDatei(pfad)) {
     // No reader of the Access format is built: the old file is kept as the
     // safety copy and the project goes on with an empty database.
-    if (!DateiKopieren(pfad, ImVerzeichnis(projektVerzeichnis, kLVAltDateiname))) return false;
+    if (!io::CopyFileAtomically(pfad, ImVerzeichnis(projektVerzeichnis, kLVAltDateiname))) return false;
     if (!LVMusterErzeugen(pfad)) return false;
     if (status) {
       status->show("Das Leistungsverzeichnis im alten Access-Format wurde als LV_ALT.MDB gesichert "

@@ -124,10 +124,10 @@ TEST(ProjektKopie, TheListCopiesAProjectThatThenReadsTheSame) {
   u.ordner.schreiben("Kolmproj.ini", "[Project]\r\nName=Alt\r\n");
   ASSERT_TRUE(KatalogSchreiben(u.kontext));
   for (const KopierSchritt& s : ProjektKopieDateien(u.z(), u.ordner.verzeichnis(), ziel.verzeichnis()))
-    ASSERT_TRUE(DateiKopieren(s.quelle, s.ziel)) << s.datei;
+    ASSERT_TRUE(io::CopyFileAtomically(s.quelle, s.ziel)) << s.datei;
   EXPECT_EQ(ziel.dateien(), u.ordner.dateien());
   for (const std::string& d : u.ordner.dateien()) EXPECT_EQ(ziel.lesen(d), u.ordner.lesen(d)) << d;
-  EXPECT_FALSE(DateiKopieren(u.ordner.datei("fehlt"), ziel.datei("fehlt")));
+  EXPECT_FALSE(io::CopyFileAtomically(u.ordner.datei("fehlt"), ziel.datei("fehlt")));
   EXPECT_FALSE(ziel.gibt("fehlt"));
 }
 

@@ -92,3 +92,30 @@ TEST(CodePage, EveryByteSurvivesTheRoundTrip) {
 
 }  // namespace
 }  // namespace kolm::core::io
+
+namespace kolm::core::io {
+namespace {
+
+TEST(AtomicCopy, CopiesEveryByteAndAFailureAtAnyStepKeepsTheOldTarget) {
+  TempDir dir;
+  std::string gross(200000, '\0');
+  for (size_t i = 0; i < gross.size(); ++i) gross[i] = static_cast<char>(i * 7);
+  const std::string von = dir.file("LVMuster.MDB"), nach = dir.file("LV.MDB");
+  ASSERT_TRUE(WriteFileAtomically(von, gross));
+  for (const char* step : {"open", "write", "sync", "rename"}) {
+    ASSERT_TRUE(WriteFileAtomically(nach, "alt"));
+    SetFaultHook([step](std::string_view s, const std::string&) { return s == step; });
+    EXPECT_FALSE(CopyFileAtomically(von, nach)) << step;
+    SetFaultHook(nullptr);
+    EXPECT_EQ(ReadFile(nach).value_or(""), "alt") << step;
+    EXPECT_EQ(dir.entries(), 2u) << step;
+  }
+  ASSERT_TRUE(CopyFileAtomically(von, nach));
+  EXPECT_EQ(ReadFile(nach).value_or(""), gross);
+  EXPECT_FALSE(CopyFileAtomically(dir.file("fehlt"), nach));
+  EXPECT_FALSE(CopyFileAtomically(dir.path.string(), nach)) << "a folder is no file";
+  EXPECT_EQ(ReadFile(nach).value_or(""), gross);
+}
+
+}  // namespace
+}  // namespace kolm::core::io

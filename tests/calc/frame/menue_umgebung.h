@@ -1,0 +1,47 @@
+#pragma once
+// The calculation dialogs wired as the program wires them and opened from
+// their menu entries, with the helpers the tests of every family share.
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <string>
+
+#include "calc/frame/umgebung.h"
+#include "calc/verdrahtung.h"
+#include "points/numbers/numbers.h"
+
+namespace kolm::calc::testing {
+
+constexpr double kPi = 3.141592654;
+
+struct MenueUmgebung : Umgebung {
+  MenueUmgebung() {
+    RechnenRegistrieren(forms, anwendung);
+    RechnenVerbinden(*anwendung.main(), anwendung);
+  }
+  // The dialog as its menu entry opens it.
+  RechenDialog& oeffnen(const std::string& menue, const std::string& form) {
+    anwendung.main()->control(menue).click();
+    forms::Form* f = forms.find(form);
+    EXPECT_NE(f, nullptr) << form;
+    return static_cast<RechenDialog&>(*f);
+  }
+  // A rectangular point (a, b) as the polar table holds it: gon, system 0.
+  void polarPunkt(int n, double a, double b) {
+    double t = std::atan2(b, a);
+    if (t < 0) t += 2 * kPi;
+    punkt(n, std::hypot(a, b), t * 200 / kPi);
+  }
+  // Types a point into the Punkteingabe the next modal opening shows.
+  void tippen(const std::string& a, const std::string& b) {
+    host.onModal([a, b](forms::Form& f) {
+      f.control("TextA").setText(a);
+      f.control("TextB").setText(b);
+      f.control("OK").click();
+    });
+  }
+  static double zahl(const forms::Control& c) { return numbers::ZahlLesen(c.captionText()); }
+  static double zahl(const std::string& text) { return numbers::ZahlLesen(text); }
+};
+
+}  // namespace kolm::calc::testing

@@ -1,11 +1,19 @@
 #include "calc/verdrahtung.h"
 
+#include "calc/absteckdaten/verdrahtung.h"
 #include "calc/anschluss/verdrahtung.h"
+#include "calc/ausrundung/verdrahtung.h"
+#include "calc/bogen/verdrahtung.h"
 #include "calc/distanz.h"
+#include "calc/eilinie/verdrahtung.h"
 #include "calc/einrechnen/verdrahtung.h"
 #include "calc/geraden/verdrahtung.h"
+#include "calc/klotoide/verdrahtung.h"
+#include "calc/kreisabsteckung/verdrahtung.h"
 #include "calc/kreise/verdrahtung.h"
+#include "calc/polygonzug/verdrahtung.h"
 #include "calc/schnitt/verdrahtung.h"
+#include "calc/taschenrechner/verdrahtung.h"
 #include "core/app/anwendung.h"
 #include "core/main/main_form.h"
 
@@ -18,6 +26,14 @@ void RechnenRegistrieren(forms::Forms& forms, core::Anwendung& anwendung) {
   KreisDialogeRegistrieren(forms, anwendung);
   GeradenDialogeRegistrieren(forms, anwendung);
   EinrechnenDialogeRegistrieren(forms, anwendung);
+  PolygonzugDialogeRegistrieren(forms, anwendung);
+  BogenDialogeRegistrieren(forms, anwendung);
+  KreisAbsteckDialogeRegistrieren(forms, anwendung);
+  AusrundungDialogeRegistrieren(forms, anwendung);
+  KlotoidenDialogeRegistrieren(forms, anwendung);
+  EilinienDialogeRegistrieren(forms, anwendung);
+  AbsteckdatenDialogeRegistrieren(forms, anwendung);
+  TaschenrechnerDialogeRegistrieren(forms, anwendung);
 }
 
 void RechnenVerbinden(core::MainForm& main, core::Anwendung& anwendung) {
@@ -29,6 +45,14 @@ void RechnenVerbinden(core::MainForm& main, core::Anwendung& anwendung) {
   KreisDialogeVerbinden(main, anwendung);
   GeradenDialogeVerbinden(main, anwendung);
   EinrechnenDialogeVerbinden(main, anwendung);
+  PolygonzugDialogeVerbinden(main, anwendung);
+  BogenDialogeVerbinden(main, anwendung);
+  KreisAbsteckDialogeVerbinden(main, anwendung);
+  AusrundungDialogeVerbinden(main, anwendung);
+  KlotoidenDialogeVerbinden(main, anwendung);
+  EilinienDialogeVerbinden(main, anwendung);
+  AbsteckdatenDialogeVerbinden(main, anwendung);
+  TaschenrechnerDialogeVerbinden(main, anwendung);
 }
 
 }  // namespace kolm::calc

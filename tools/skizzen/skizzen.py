@@ -6,11 +6,16 @@ rsvg-convert (Debian-Paket librsvg2-bin) zu PNG umgewandelt:
 
     python3 tools/skizzen/skizzen.py [Zielordner]
 
+Die Skizzen einer Rechenfamilie stehen in einem eigenen Modul
+skizzen_<familie>.py daneben (from skizzen import Skizze, ...), das eine
+Liste SKIZZEN ausgibt; main() sammelt sie alle ein.
+
 Ohne Zielordner landen die Bilder in data/hilfe/skizzen/. Die Zeichnungen
 stehen in der Ebene "erste Koordinate nach rechts, zweite nach oben"
 (M31: Y nach rechts, X nach oben); y zaehlt hier nach oben und wird erst
 beim Schreiben in Bildkoordinaten gewendet.
 """
+import importlib
 import math
 import os
 import subprocess
@@ -444,11 +449,21 @@ SKIZZEN = [distanz, winkel_zwischen3, direkter_anschluss, indirekter_anschluss, 
            rechtwinkliger_geradenschnitt, parallelen_schnitt, einrechnen, kleinpunkte]
 
 
+def alle_skizzen(hier):
+    """Die Skizzen dieser Datei und die aller Familienmodule skizzen_*.py daneben."""
+    sys.path.insert(0, hier)
+    alle = list(SKIZZEN)
+    for datei in sorted(os.listdir(hier)):
+        if datei.startswith("skizzen_") and datei.endswith(".py"):
+            alle += importlib.import_module(datei[:-3]).SKIZZEN
+    return alle
+
+
 def main():
     hier = os.path.dirname(os.path.abspath(__file__))
     ziel = sys.argv[1] if len(sys.argv) > 1 else os.path.join(hier, "..", "..", "data", "hilfe", "skizzen")
     os.makedirs(ziel, exist_ok=True)
-    for baue in SKIZZEN:
+    for baue in alle_skizzen(hier):
         s = baue()
         datei = os.path.join(ziel, s.name)
         svg = s.svg()

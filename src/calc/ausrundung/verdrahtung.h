@@ -1,0 +1,15 @@
+#pragma once
+// Vertical rounding: registering the dialogs and binding the entries of Main.
+#include "forms/forms.h"
+
+namespace kolm::core {
+class Anwendung;
+class MainForm;
+}  // namespace kolm::core
+
+namespace kolm::calc {
+
+void AusrundungDialogeRegistrieren(forms::Forms& forms, core::Anwendung& anwendung);
+void AusrundungDialogeVerbinden(core::MainForm& main, core::Anwendung& anwendung);
+
+}  // namespace kolm::calc

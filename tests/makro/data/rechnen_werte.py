@@ -1,0 +1,152 @@
+#!/usr/bin/env python3
+"""Expected values of the calculation scenarios (tests/makro/rechnen_*.makro).
+
+Every number a scenario checks is worked out here from the geometry itself
+(chord formula, sine rule, atan2), not from the program's kernels. Only the
+conventions are the program's: Pi = 3.141592654 in every angle conversion,
+angles of a Math system counter-clockwise from the axis to the right, of an
+M31 system clockwise from the axis up; results shown with three decimals,
+inputs and scalar results with three to six.
+
+    python3 rechnen_werte.py          prints the values of every scenario
+"""
+import math
+
+Pi = 3.141592654
+EINHEIT = {"Neugrad": Pi / 200, "Altgrad": Pi / 180, "Radiant": 1.0}
+
+
+class System:
+    def __init__(self, m31=False, einheit="Neugrad"):
+        self.m31 = m31
+        self.f = EINHEIT[einheit]
+
+    def polar(self, a, b):
+        """(a, b) as the polar table holds it: distance and angle."""
+        e = math.hypot(a, b)
+        t = math.atan2(a, b) if self.m31 else math.atan2(b, a)
+        if t < 0:
+            t += 2 * Pi
+        return e, t / self.f
+
+    def rechtwinklig(self, e, phi):
+        t = phi * self.f
+        if self.m31:
+            return e * math.sin(t), e * math.cos(t)
+        return e * math.cos(t), e * math.sin(t)
+
+    def richtung(self, da, db):
+        """Direction of a vector in the system's sense and unit."""
+        return self.polar(da, db)[1]
+
+
+def std(x):
+    """StandardFormat: three to six decimals."""
+    s = "%.6f" % x
+    while s.endswith("0") and len(s.split(".")[1]) > 3:
+        s = s[:-1]
+    return s
+
+
+def erg(x):
+    """ErgebnisFormat: three decimals."""
+    return "%.3f" % x
+
+
+def zeige(name, p, sys=None):
+    """A result point as shown (three decimals) and as stored (more)."""
+    a, b = p if sys is None else sys.polar(*p)
+    print("  %-14s %s %s   gespeichert %.7f %.7f   Meldung (%s/%s)" % (name, erg(a), erg(b), a, b, std(a), std(b)))
+
+
+def sub(p, q):
+    return p[0] - q[0], p[1] - q[1]
+
+
+def links_vom(b, s, R, r):
+    """Points of the circles (b, R) and (s, r): the one left of b->s first."""
+    dx, dy = sub(s, b)
+    d = math.hypot(dx, dy)
+    x = (d * d + R * R - r * r) / (2 * d)
+    h = math.sqrt(max(R * R - x * x, 0.0))
+    ux, uy = dx / d, dy / d
+    fx, fy = b[0] + x * ux, b[1] + x * uy
+    return (fx - h * uy, fy + h * ux), (fx + h * uy, fy - h * ux)
+
+
+def kreis_kreis(m1, r1, m2, r2):
+    # The larger circle leads; on equal radii the second one.
+    if r1 > r2:
+        return links_vom(m1, m2, r1, r2)
+    return links_vom(m2, m1, r2, r1)
+
+
+def gerade_kreis(m, r, p1, p2):
+    """Points of the circle and the line p1->p2, the one ahead first."""
+    dx, dy = sub(p2, p1)
+    L = math.hypot(dx, dy)
+    ux, uy = dx / L, dy / L
+    s = (m[0] - p1[0]) * ux + (m[1] - p1[1]) * uy
+    f = (p1[0] + s * ux, p1[1] + s * uy)
+    h = math.hypot(*sub(m, f))
+    w = math.sqrt(r * r - h * h)
+    return (f[0] + w * ux, f[1] + w * uy), (f[0] - w * ux, f[1] - w * uy)
+
+
+def tangenten(m, r, p):
+    """Touching points seen from p, and the tangent length."""
+    t = math.sqrt(math.hypot(*sub(p, m)) ** 2 - r * r)
+    # The circle of radius t around p meets the given one; p's leads on a tie.
+    return (links_vom(p, m, t, r) if t >= r else links_vom(m, p, r, t)), t
+
+
+def umkreis(p1, p2, p3):
+    (ax, ay), (bx, by), (cx, cy) = p1, p2, p3
+    D = 2 * (ax * (by - cy) + bx * (cy - ay) + cx * (ay - by))
+    ux = ((ax**2 + ay**2) * (by - cy) + (bx**2 + by**2) * (cy - ay) + (cx**2 + cy**2) * (ay - by)) / D
+    uy = ((ax**2 + ay**2) * (cx - bx) + (bx**2 + by**2) * (ax - cx) + (cx**2 + cy**2) * (bx - ax)) / D
+    return (ux, uy), math.hypot(ax - ux, ay - uy)
+
+
+def titel(text):
+    print("\n" + text)
+
+
+# ---------------------------------------------------------------- circles
+titel("rechnen_kreis_kreis: M1 900 (1000, 2000) r1 50, M2 von Hand (1060, 2030) r2 40")
+s1, s2 = kreis_kreis((1000, 2000), 50, (1060, 2030), 40)
+zeige("S1", s1)
+zeige("S2", s2)
+print("  gleiche Radien 45: Kreis 2 fuehrt")
+s1, s2 = kreis_kreis((1000, 2000), 45, (1060, 2030), 45)
+zeige("S1", s1)
+zeige("S2", s2)
+
+titel("rechnen_gerade_kreis: M 900 (1000, 2000) r 50, P1 901 (940, 1970), P2 von Hand (1100, 2030)")
+s1, s2 = gerade_kreis((1000, 2000), 50, (940, 1970), (1100, 2030))
+zeige("S1", s1)
+zeige("S2", s2)
+print("  Senkrecht durch den Mittelpunkt 900, r 50")
+s1, s2 = gerade_kreis((1000, 2000), 50, (1000, 2000), (1000, 2001))
+zeige("S1", s1)
+zeige("S2", s2)
+print("  Waagrecht durch den neuen 901, r 25")
+s1, s2 = gerade_kreis((1000, 2000), 25, (956.1133458, 1976.0425047), (957.1133458, 1976.0425047))
+zeige("S1", s1)
+zeige("S2", s2)
+
+titel("rechnen_kreis_tangenten: M 900 (1000, 2000) r 30, P von Hand (1080, 2060)")
+(s1, s2), t = tangenten((1000, 2000), 30, (1080, 2060))
+print("  t = %s" % std(t))
+zeige("S1", s1)
+zeige("S2", s2)
+print("  r 70 (t kleiner als r: der Kreis um M fuehrt)")
+(s1, s2), t = tangenten((1000, 2000), 70, (1080, 2060))
+print("  t = %s" % std(t))
+zeige("S1", s1)
+zeige("S2", s2)
+
+titel("rechnen_umkreis: P1 900 (1000, 2000), P2 901 (1080, 2010), P3 von Hand (1030, 2070)")
+m, r = umkreis((1000, 2000), (1080, 2010), (1030, 2070))
+zeige("M", m)
+print("  Radius %s" % std(r))

@@ -192,3 +192,56 @@ print("  GeradeKreis M 900 r 50, Gerade 901 -> 900 durch den Mittelpunkt")
 s1, s2 = gerade_kreis(P900, 50, P901, P900)
 zeige("S1", s1, m31)
 zeige("S2", s2, m31)
+
+
+# ------------------------------------------------------------- ties, angles
+def winkel_bei(p1, s, p2):
+    """Unsigned angle at s between p1 and p2, radians."""
+    u, v = sub(p1, s), sub(p2, s)
+    return math.acos((u[0] * v[0] + u[1] * v[1]) / math.hypot(*u) / math.hypot(*v))
+
+
+def rechtsum(s, p1, p2):
+    """Angle at s turning clockwise from the ray to p1 to the ray to p2."""
+    w = math.atan2(p1[1] - s[1], p1[0] - s[0]) - math.atan2(p2[1] - s[1], p2[0] - s[0])
+    return w % (2 * math.pi)
+
+
+def distanz(sys, p1, p2, name):
+    da, db = sub(p2, p1)
+    e, w = sys.polar(da, db)
+    # The gradient is the tangent of the system's own direction: rise over
+    # run in a Math system, run over rise under M31.
+    steigung = 100 * (da / db if sys.m31 else db / da)
+    print("  Distanz %s, Winkel %s, Steigung %s, %s %s" % (std(e), std(w), std(steigung), name, (std(da), std(db))))
+
+
+def direkter(sys, s, p1, p2, alpha):
+    # Two sides and the angle at S: one triangle only if S-P1 is not longer
+    # than P1-P2, else the program rightly finds the other one.
+    assert math.hypot(*sub(p1, s)) <= math.hypot(*sub(p2, p1))
+    w = rechtsum(s, p1, p2) / sys.f
+    print("  e %.9f  alpha %.9f  beta %.9f  (Winkel %.6f)" % (math.hypot(*sub(p1, s)), alpha, alpha + w, w))
+
+
+def indirekter(sys, s, p1, p2, alpha, beta):
+    r = math.hypot(*sub(p1, s))
+    a = r * math.sin((alpha + beta) * sys.f) / math.sin(alpha * sys.f)
+    print("  a %.9f  alpha %s  beta %s  lambda %.9f" % (a, alpha, beta, rechtsum(s, p1, p2) / sys.f))
+
+
+titel("rechnen_anschluss_polar_m31: P1 900 (1000, 2000), P2 901 (1100, 2050)")
+P1, P2 = (1000, 2000), (1100, 2050)
+for sys, text in ((System(m31=True), "M31, Neugrad"), (System(einheit="Altgrad"), "polar, Math, Altgrad")):
+    print(" %s" % text)
+    distanz(sys, P1, P2, "Delta")
+    print("  Winkel bei 901 zwischen 900 und (1160, 1980): %s" % std(winkel_bei(P1, P2, (1160, 1980)) / sys.f))
+    print("  Direkter Anschluss S (1060, 1930), rechtsdrehend abgelesen:")
+    direkter(sys, (1060, 1930), P1, P2, 50)
+    print("  Indirekter Anschluss S (1050, 1900):")
+    indirekter(sys, (1050, 1900), P1, P2, 60, 70)
+altgrad = System(einheit="Altgrad")
+print("  polar: die Tabelle nach der Umwandlung")
+for n, p in ((900, P1), (901, P2), (902, (1060, 1930)), (903, (1050, 1900))):
+    print("  %d   e %.7f  Phi %.7f   angezeigt %s %s" % ((n,) + altgrad.polar(*p) + tuple(erg(x) for x in altgrad.polar(*p))))
+print("  (1160, 1980) polar von Hand: e %.9f Phi %.9f" % altgrad.polar(1160, 1980))

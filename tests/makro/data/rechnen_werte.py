@@ -245,3 +245,23 @@ print("  polar: die Tabelle nach der Umwandlung")
 for n, p in ((900, P1), (901, P2), (902, (1060, 1930)), (903, (1050, 1900))):
     print("  %d   e %.7f  Phi %.7f   angezeigt %s %s" % ((n,) + altgrad.polar(*p) + tuple(erg(x) for x in altgrad.polar(*p))))
 print("  (1160, 1980) polar von Hand: e %.9f Phi %.9f" % altgrad.polar(1160, 1980))
+
+
+# ------------------------------------------------------ intersection, resection
+def links(p, q, s):
+    return (q[0] - p[0]) * (s[1] - p[1]) - (q[1] - p[1]) * (s[0] - p[0]) > 0
+
+
+titel("rechnen_schnitt_polar_m31: P1 900 (1000, 2000), P2 901 (1100, 2050), P3 902 (1200, 1980)")
+P1, P2, P3 = (1000, 2000), (1100, 2050), (1200, 1980)
+SV, SR = (1020, 2090), (1080, 1900)
+assert links(P1, P2, SV)  # the rays are turned toward the left of P1-P2
+for sys, text in ((System(m31=True, einheit="Altgrad"), "M31, Altgrad"), (System(einheit="Radiant"), "polar, Math, Radiant")):
+    print(" %s" % text)
+    print("  Vorwaertsschnitt nach %s: alpha %.9f beta %.9f" % (SV, winkel_bei(P2, P1, SV) / sys.f, winkel_bei(P1, P2, SV) / sys.f))
+    print("  Rueckwaertsschnitt nach %s, rechtsdrehend: %.9f %.9f" % (SR, rechtsum(SR, P1, P2) / sys.f, rechtsum(SR, P2, P3) / sys.f))
+radiant = System(einheit="Radiant")
+print("  polar: die Tabelle nach der Umwandlung")
+for n, p in ((900, P1), (903, SV), (904, SR)):
+    print("  %d   e %.7f  Phi %.7f   angezeigt %s %s" % ((n,) + radiant.polar(*p) + tuple(erg(x) for x in radiant.polar(*p))))
+print("  900 im Feld: e = %s Phi = %s" % tuple(std(x) for x in radiant.polar(*P1)))

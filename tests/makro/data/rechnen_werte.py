@@ -265,3 +265,35 @@ print("  polar: die Tabelle nach der Umwandlung")
 for n, p in ((900, P1), (903, SV), (904, SR)):
     print("  %d   e %.7f  Phi %.7f   angezeigt %s %s" % ((n,) + radiant.polar(*p) + tuple(erg(x) for x in radiant.polar(*p))))
 print("  900 im Feld: e = %s Phi = %s" % tuple(std(x) for x in radiant.polar(*P1)))
+
+
+# ------------------------------------------------------------------- lines
+def schnitt(p, u, q, v):
+    """Meeting point of the lines p + s u and q + t v."""
+    det = u[0] * v[1] - u[1] * v[0]
+    s = ((q[0] - p[0]) * v[1] - (q[1] - p[1]) * v[0]) / det
+    return p[0] + s * u[0], p[1] + s * u[1]
+
+
+titel("rechnen_geraden_polar_m31: 900 (1000, 2000), 901 (1100, 2050), 902 (1200, 1980)")
+P1, P2, P3 = (1000, 2000), (1100, 2050), (1200, 1980)
+print(" M31, Radiant")
+m31 = System(m31=True, einheit="Radiant")
+# 0.5 rad clockwise from X, the axis up: (sin, cos) in (Y, X).
+g1 = (math.sin(0.5 * m31.f), math.cos(0.5 * m31.f))
+zeige("Geradenschnitt g1 durch 900 mit 0.5, g2 901-902", schnitt(P1, g1, P2, sub(P3, P2)))
+u = sub(P2, P1)
+zeige("Lotfusspunkt von 902 auf 900-901", schnitt(P1, u, P3, (-u[1], u[0])))
+zeige("Parallele zu 900-901 durch (1050, 2100), waagrecht durch 902", schnitt((1050, 2100), u, P3, (1, 0)))
+
+print(" polar, Math, Neugrad")
+gon = System(einheit="Neugrad")
+h = (1150, 2120)
+print("  P4 polar von Hand aus %s: e %.9f Phi %.9f" % ((h,) + gon.polar(*h)))
+e, phi = (round(x, 9) for x in gon.polar(*h))
+zeige("Geradenschnitt 900-901 mit 902-P4", schnitt(P1, u, P3, sub(gon.rechtwinklig(e, phi), P3)), gon)
+g1 = (math.cos(30 * gon.f), math.sin(30 * gon.f))
+zeige("Lotfusspunkt von 902 auf g1 durch 900 mit 30 gon", schnitt(P1, g1, P3, (-g1[1], g1[0])), gon)
+roh = gon.polar(*P3)
+print("  Parallele: P = 902 wird nicht umgerechnet, a, b = e, Phi = %.7f %.7f" % roh)
+zeige("Parallele zu 900-901 durch dieses P, g2 y = -x + 3000", schnitt(roh, u, (0, 3000), (1, -1)), gon)

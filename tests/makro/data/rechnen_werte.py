@@ -297,3 +297,30 @@ zeige("Lotfusspunkt von 902 auf g1 durch 900 mit 30 gon", schnitt(P1, g1, P3, (-
 roh = gon.polar(*P3)
 print("  Parallele: P = 902 wird nicht umgerechnet, a, b = e, Phi = %.7f %.7f" % roh)
 zeige("Parallele zu 900-901 durch dieses P, g2 y = -x + 3000", schnitt(roh, u, (0, 3000), (1, -1)), gon)
+
+
+# ------------------------------------------------------ offsets, small points
+def schritt(p, u, e):
+    L = math.hypot(*u)
+    return p[0] + e * u[0] / L, p[1] + e * u[1] / L
+
+
+titel("rechnen_einrechnen_polar_m31: M31, Neugrad; A 900 (1000, 2000), E 901 (1100, 2050)")
+m31 = System(m31=True, einheit="Neugrad")
+A, E = (1000, 2000), (1100, 2050)
+u = sub(E, A)
+w = 40 * m31.f
+zeige("Einrechnen A und Winkel 40 gon von X, e 25", schritt(A, (math.sin(w), math.cos(w)), 25))
+k1 = schritt(A, (-u[1], u[0]), 30)
+zeige("Kleinpunkte links 30", k1)
+zeige("dann rechts 20", schritt(k1, (u[1], -u[0]), 20))
+print(" polar, M31, Neugrad")
+for n, p in ((900, A), (901, E)):
+    print("  %d   e %.7f  Phi %.7f" % ((n,) + m31.polar(*p)))
+zeige("Einrechnen 900-901, e 40", schritt(A, u, 40), m31)
+f2 = schritt(A, u, 80)
+zeige("fortlaufend, zweiter Schritt", f2, m31)
+print("  A danach im Feld: e = %s Phi = %s" % tuple(std(x) for x in m31.polar(*f2)))
+k = schritt(A, u, 50)
+zeige("Kleinpunkte A von Hand rechtwinkelig, vorwaerts 50", k, m31)
+print("  P danach im Feld: e = %s Phi = %s" % tuple(std(x) for x in m31.polar(*k)))

@@ -17,16 +17,21 @@ BogenElementeBForm::BogenElementeBForm(forms::Forms& forms, core::Anwendung& anw
   EingabePunkt(2, "Bogenende");
   Parameter(0, "&R=");
   RadiusOderTangente(0, 2);
-  add(ControlKind::Label, "Hinweis").in("FrameRadius").at(1, 0, 1, 2);
+  // Beside the two points; the note starts with its longer caption so that
+  // the view keeps room for both lines.
+  control("FrameRadius").at(0, 2, 2, 1);
+  add(ControlKind::Label, "Hinweis").caption("T>0 rechtsdrehend\nT<0 linksdrehend").in("FrameRadius").at(1, 0, 1, 2);
   ErgebnisPunkt(0, "Ergebnis Mittelpunkt", {"M", "", false});
   ErgebnisPunkt(1, "Ergebnis W-Punkt", {"W", "", false});
   control("Speichern", 1).setCaption("S&peichern");
   ElementeAnlegen();
+  // Beside the two result points, so that the dialog stays low.
+  control("FrameErgebnis").at(3, 2, 2, 1);
 }
 
 void BogenElementeBForm::RadiusGewaehlt(bool mitRadius) {
   control("Hinweis").setCaption(mitRadius ? "R>0 rechtsdrehend    R<0 linksdrehend"
-                                          : "T>0 rechtsdrehend\rT<0 linksdrehend");
+                                          : "T>0 rechtsdrehend\nT<0 linksdrehend");
 }
 
 void BogenElementeBForm::Beschriften() {

@@ -180,7 +180,7 @@ TEST_F(BogenElementeBTest, OpensWithItsCaptionsAndTheNoteFollowsTheOption) {
   EXPECT_EQ(d.control("Hinweis").captionText(), "R>0 rechtsdrehend    R<0 linksdrehend");
   d.control("OptionTangente").click();
   EXPECT_EQ(d.control("Label", 0).captionText(), "&T=");
-  EXPECT_EQ(d.control("Hinweis").captionText(), "T>0 rechtsdrehend\rT<0 linksdrehend");
+  EXPECT_EQ(d.control("Hinweis").captionText(), "T>0 rechtsdrehend\nT<0 linksdrehend");
   d.control("OptionRadius").click();
   EXPECT_EQ(d.control("Hinweis").captionText(), "R>0 rechtsdrehend    R<0 linksdrehend");
 }

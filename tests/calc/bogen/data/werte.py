@@ -129,3 +129,7 @@ R = 40
 print("Segment S 80, R 40: alpha %s, b %s, T %s, F %s" % (
     standard(Pi / GON), ergebnis(R * Pi), standard(R * math.tan(Pi / 2)),
     ergebnis(R * R / 2 * (Pi - math.sin(Pi)))))
+
+# macro: the segment over BA-BE from the height of the R 60 segment, rounded
+P = 26.833752
+zeige("Segment BA-BE c 100, P %g, gon" % P, segment(100, (50 ** 2 + P ** 2) / (2 * P)))

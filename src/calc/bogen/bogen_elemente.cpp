@@ -33,10 +33,10 @@ BogenElementeDialog::BogenElementeDialog(forms::Forms& forms, core::Anwendung& a
                                          std::string caption)
     : RechenDialog(forms, anwendung, name, std::move(caption), name) {}
 
-void BogenElementeDialog::RadiusOderTangente(int param, int zeile) {
+void BogenElementeDialog::RadiusOderTangente(int param, int zeile, int zeilen) {
   radiusParam_ = param;
   control("Label", param).setCaption("&R=");
-  add(ControlKind::Frame, "FrameRadius").caption("Gegeben").at(zeile, 2);
+  add(ControlKind::Frame, "FrameRadius").caption("Gegeben").at(zeile, 2, zeilen, 1);
   add(ControlKind::OptionButton, "OptionRadius").caption("Radius").in("FrameRadius").at(0, 0);
   add(ControlKind::OptionButton, "OptionTangente").caption("Tangente").in("FrameRadius").at(0, 1);
   on("OptionRadius", Event::Click, [this](forms::Control&, forms::EventArgs&) {

@@ -24,9 +24,10 @@ class BogenElementeDialog : public RechenDialog {
  protected:
   BogenElementeDialog(forms::Forms& forms, core::Anwendung& anwendung, std::string name, std::string caption);
 
-  // Frame FrameRadius with OptionRadius and OptionTangente beside Param(param),
-  // in the form's row zeile; the options caption Label(param).
-  void RadiusOderTangente(int param, int zeile);
+  // Frame FrameRadius with OptionRadius and OptionTangente in the column
+  // beside the fields, from the form's row zeile over zeilen rows; the
+  // options caption Label(param).
+  void RadiusOderTangente(int param, int zeile, int zeilen = 1);
   bool MitRadius() const;
   // Erg(0) .. Erg(8) in frame FrameErgebnis.
   void ElementeAnlegen();

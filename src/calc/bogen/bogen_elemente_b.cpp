@@ -11,16 +11,19 @@ namespace kolm::calc {
 using forms::ControlKind;
 using kernel::klassisch::Zuweisen;
 
+namespace {
+constexpr char kHinweisT[] = "T>0 rechtsdrehend\nT<0 linksdrehend";
+}  // namespace
+
 BogenElementeBForm::BogenElementeBForm(forms::Forms& forms, core::Anwendung& anwendung)
     : BogenElementeDialog(forms, anwendung, "BogenElementeB", "Bogenelemente mit BA, BE") {
   EingabePunkt(1, "Bogenanfang");
   EingabePunkt(2, "Bogenende");
   Parameter(0, "&R=");
-  RadiusOderTangente(0, 2);
   // Beside the two points; the note starts with its longer caption so that
   // the view keeps room for both lines.
-  control("FrameRadius").at(0, 2, 2, 1);
-  add(ControlKind::Label, "Hinweis").caption("T>0 rechtsdrehend\nT<0 linksdrehend").in("FrameRadius").at(1, 0, 1, 2);
+  RadiusOderTangente(0, 0, 2);
+  add(ControlKind::Label, "Hinweis").caption(kHinweisT).in("FrameRadius").at(1, 0, 1, 2);
   ErgebnisPunkt(0, "Ergebnis Mittelpunkt", {"M", "", false});
   ErgebnisPunkt(1, "Ergebnis W-Punkt", {"W", "", false});
   control("Speichern", 1).setCaption("S&peichern");
@@ -31,7 +34,7 @@ BogenElementeBForm::BogenElementeBForm(forms::Forms& forms, core::Anwendung& anw
 
 void BogenElementeBForm::RadiusGewaehlt(bool mitRadius) {
   control("Hinweis").setCaption(mitRadius ? "R>0 rechtsdrehend    R<0 linksdrehend"
-                                          : "T>0 rechtsdrehend\nT<0 linksdrehend");
+                                          : kHinweisT);
 }
 
 void BogenElementeBForm::Beschriften() {

@@ -37,7 +37,8 @@ TEST_F(BogenElementeTest, WinkelInGonWithRadius) {
   RechenDialog& d = w();
   rechnen(d, "50", "100");
   EXPECT_TRUE(u.meldungen().empty());
-  BogenUmgebung::felder(d, {"100.000", "41.421356", "50.000", "78.540", "76.537", "38.268", "7.612", "8.239", "19.891"});
+  BogenUmgebung::felder(d,
+                        {"100.000", "41.421356", "50.000", "78.540", "76.537", "38.268", "7.612", "8.239", "19.891"});
 }
 
 TEST_F(BogenElementeTest, WinkelInAltgradWithTangent) {

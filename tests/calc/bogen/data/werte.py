@@ -4,7 +4,8 @@
 Computed from the geometry of the arc, not from the program's formulas:
 the chord S = 2 R sin(alpha/2), the tangent T = R tan(alpha/2), the
 height of the segment f = R (1 - cos(alpha/2)), the distance of the
-vertex from the arc d = R / cos(alpha/2) - R; the centre lies on the
+vertex from the arc d = R / cos(alpha/2) - R, the tangent of the half arc
+R tan(alpha/4); the centre lies on the
 perpendicular through the middle of the chord at sqrt(R^2 - (S/2)^2), the
 tangent vertex on the other side at sqrt(T^2 - (S/2)^2). Angles are turned
 into the user's unit with Pi = 3.141592654 as the program does.
@@ -40,8 +41,9 @@ def elemente(R, alpha, faktor):
         "Xs": ergebnis(S / 2),
         "Ys": ergebnis(R * (1 - math.cos(h))),
         "ds": ergebnis(R / math.cos(h) - R),
-        # from the vertex along the bisector to the arc, then along the tangent
-        "ts": ergebnis((R / math.cos(h) - R) / math.tan(h)),
+        # the tangent at the middle of the arc up to the main tangent: the
+        # tangent length of the half arc
+        "ts": ergebnis(R * math.tan(h / 2)),
     }
 
 

@@ -111,4 +111,5 @@ if __name__ == "__main__":
     print("F = 0 (a caption that is no number), R1=100 R2=300 D=2:", geschlossen(100, 300, 2, 0))
     print("F = 1, R1=R2=200, D=2:", geschlossen(200, 200, 2, 1))
     print("F = -1, R1=R2=200, D=2:", geschlossen(200, 200, 2, -1))
-    print("F = 1, R1=100 R2=300 D=-2:", geschlossen(100, 300, -2, 1))
+    for d, f in ((100, 1), (300, 1), (400, -1), (100.5, 1)):
+        print("R1=100 R2=300 D=%g F=%+d (a denominator at or near 0):" % (d, f), geschlossen(100, 300, d, f))

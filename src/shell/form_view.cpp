@@ -8,6 +8,7 @@
 #include <QDrag>
 #include <QDragEnterEvent>
 #include <QDropEvent>
+#include <QFontMetrics>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHeaderView>
@@ -28,6 +29,7 @@
 #include <QTimer>
 #include <QToolButton>
 #include <QUrl>
+#include <QSpacerItem>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <climits>
@@ -269,10 +271,12 @@ void FormWidget::build(const ControlViews* views) {
     for (QGridLayout* page : item->pages) setStretches(page, resizable);
   }
   if (!resizable) {
-    if (form_->preferredWidth() > 0 && form_->preferredHeight() > 0)
+    if (form_->preferredWidth() > 0 && form_->preferredHeight() > 0) {
       setFixedSize(form_->preferredWidth(), form_->preferredHeight());
-    else
+    } else {
+      widenToTitle();
       root_->setSizeConstraint(QLayout::SetFixedSize);
+    }
   }
 
   // Tab order and access keys follow the order the form declares its controls in.
@@ -474,6 +478,28 @@ void FormWidget::place(Item& item) {
   if (layout == item.layout) layout = root_;
   layout->addWidget(item.widget, std::max(0, p.row), std::max(0, p.col), std::max(1, p.rowSpan),
                     std::max(1, p.colSpan));
+}
+
+void FormWidget::widenToTitle() {
+  // A fixed dialog narrower than its caption spreads its columns over the
+  // width of the title instead of leaving an empty strip at the right.
+  const int title = TitleWidth(font(), QString::fromStdString(form_->caption()));
+  if (root_->sizeHint().width() >= title) return;
+  int used = 0;
+  for (int i = 0; i < root_->count(); ++i) {
+    int r, c, rs, cs;
+    root_->getItemPosition(i, &r, &c, &rs, &cs);
+    used = std::max(used, c + cs);
+  }
+  for (int k = 0; k < root_->columnCount(); ++k) root_->setColumnStretch(k, k < used ? 1 : 0);
+  const QMargins m = root_->contentsMargins();
+  root_->addItem(new QSpacerItem(title - m.left() - m.right(), 0, QSizePolicy::Fixed, QSizePolicy::Minimum),
+                 root_->rowCount(), 0, 1, used);
+}
+
+int TitleWidth(const QFont& font, const QString& caption) {
+  const int besideTitle = 120;
+  return QFontMetrics(font).horizontalAdvance(caption) + besideTitle;
 }
 
 void FormWidget::setStretches(QGridLayout* layout, bool resizable) {

@@ -45,6 +45,10 @@ QString WithoutAccessKey(const QString& caption);
 int WidgetPosition(const std::string& modelText, int codePoints, bool multiLine);
 int ModelPosition(const std::string& modelText, int utf16, bool multiLine);
 
+// Pixels a window needs so that its caption stands whole in the title bar
+// beside the icon and the window buttons.
+int TitleWidth(const QFont& font, const QString& caption);
+
 // The generic view of a form: built from the form's declaration, mirroring
 // every change of the model and forwarding what the user does to it.
 class FormWidget final : public QWidget, public forms::FormObserver {
@@ -89,6 +93,7 @@ class FormWidget final : public QWidget, public forms::FormObserver {
   QGridLayout* containerLayout(const forms::Control& control);
   void place(Item& item);
   void setStretches(QGridLayout* layout, bool resizable);
+  void widenToTitle();
   void applyWidth(Item& item);
   void mirrorAll(Item& item);
   void mirror(Item& item, forms::Property property, int row = -1, int col = -1);

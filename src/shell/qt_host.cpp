@@ -1,5 +1,7 @@
 #include "shell/qt_host.h"
 
+#include <algorithm>
+
 #include <QCloseEvent>
 #include <QDialog>
 #include <QEventLoop>
@@ -208,6 +210,8 @@ void QtHost::applyPlacement(Entry& e) {
   // shows one field more than the 2D one it was last closed in); no window
   // is made smaller than its controls need.
   QSize size = w->sizeHint().expandedTo(w->minimumSizeHint());
+  // A surveyor tells dialogs apart by their captions: no window cuts its own.
+  size.setWidth(std::max(size.width(), TitleWidth(w->font(), w->windowTitle())));
   if (p.width > 0 && p.height > 0 && e.form->resizable())
     size = QSize(p.width, p.height).expandedTo(w->minimumSizeHint());
   // A child window stays within the frame's client area.

@@ -223,6 +223,30 @@ TEST_F(HostFixture, WithoutStoredPlacementTheFormTakesItsPreferredSize) {
   EXPECT_EQ(host->viewOf(*gross)->size(), QSize(480, 320));
 }
 
+TEST_F(HostFixture, FixedDialogIsAtLeastAsWideAsItsCaptionAndSpreadsItsColumns) {
+  class Schmal final : public forms::Form {
+   public:
+    explicit Schmal(forms::Forms& f)
+        : Form(f, "Schmal", "Schnittpunkte zweier Kreise mit einer sehr langen Überschrift") {
+      add(ControlKind::Frame, "Rahmen").caption("Punkt").at(0, 0, 1, 2);
+      add(ControlKind::CommandButton, "Berechnen").caption("&Berechnen").at(1, 0);
+      add(ControlKind::CommandButton, "Skizze").caption("S&kizze").at(1, 1);
+      setResizable(false);
+    }
+  };
+  forms.registerForm("Schmal", [](forms::Forms& f) { return std::make_unique<Schmal>(f); });
+  forms::Form* schmal = forms.show("Schmal");
+  QWidget* view = host->viewOf(*schmal);
+  QWidget* window = host->windowOf(*schmal);
+  const int title = TitleWidth(window->font(), window->windowTitle());
+  EXPECT_GE(window->width(), title);
+  EXPECT_GE(view->width(), title - 20);
+  // The frame spans both button columns and takes the extra width with them.
+  auto* rahmen = view->findChild<QWidget*>("Rahmen");
+  ASSERT_NE(rahmen, nullptr);
+  EXPECT_GE(rahmen->width(), view->width() - 40);
+}
+
 TEST_F(HostFixture, TimersFollowTheHost) {
   Fenster* punkt = show("Punkt");
   QTimer* timer = host->viewOf(*punkt)->timerOf(punkt->control("Uhr"));

@@ -1,0 +1,298 @@
+// Ausrundung: the corner P2 of P1, P2, P3 rounded by an arc given by its
+// tangent, radius, chord, arc or ds; worked values from data/werte.py
+// (tangent points along the unit vectors, checked against the centre on
+// the bisector).
+#include "calc/frame/menue_umgebung.h"
+
+namespace kolm::calc::testing {
+namespace {
+
+constexpr char kGerade[] =
+    "P1, P2, und P3 liegen auf einer Geraden. Es kann daher kein Kreisbogen eingerechnet werden!";
+constexpr char kWarnung1[] =
+    "Achtung! Die Tangentenlänge ist größer als der Abstand zwischen Punkt P1 und Punkt P2. "
+    "Der Tangentenpunkt T1 liegt NICHT zwischen P1 und P2!";
+constexpr char kWarnung2[] =
+    "Achtung! Die Tangentenlänge ist größer als der Abstand zwischen Punkt P2 und Punkt P3. "
+    "Der Tangentenpunkt T2 liegt NICHT zwischen P2 und P3!";
+
+struct AusrundungTest : ::testing::Test {
+  MenueUmgebung u;
+  RechenDialog& oeffnen() { return u.oeffnen("MnuKreisAusrundung", "Ausrundung"); }
+  // Points 1, 2, 3 are the corner; option is the given value's button.
+  RechenDialog& rechnen(const std::string& option, const std::string& wert) {
+    RechenDialog& d = oeffnen();
+    d.control("PP1Nr").setText("1");
+    d.control("PP2Nr").setText("2");
+    d.control("PP3Nr").setText("3");
+    d.control(option).click();
+    d.control("Param", 0).setText(wert);
+    d.control("Berechnen").click();
+    return d;
+  }
+  // The blunt corner (0, 0), (100, 0), (180, 60): turning angle 36.87 degrees.
+  void stumpf() {
+    u.punkt(1, 0, 0, 1.5);
+    u.punkt(2, 100, 0, 2.5);
+    u.punkt(3, 180, 60, 3.5);
+  }
+  // A point changed in the table reaches the dialog when its number is given again.
+  void neuHolen(RechenDialog& d, int n, double a, double b) {
+    u.punkt(n, a, b);
+    const std::string feld = "PP" + std::to_string(n) + "Nr";
+    d.control(feld).setText("");
+    d.control(feld).setText(std::to_string(n));
+  }
+  static std::string erg(RechenDialog& d, int i) { return d.control("Erg", i).captionText(); }
+  static double zahl(RechenDialog& d, int i) { return MenueUmgebung::zahl(d.control("Erg", i)); }
+};
+
+TEST_F(AusrundungTest, TheMenuOpensItWithTheTangentGiven) {
+  RechenDialog& d = oeffnen();
+  EXPECT_EQ(d.caption(), "Ausrundung");
+  EXPECT_EQ(d.control("Punkt1").captionText(), "Punkt P1");
+  EXPECT_EQ(d.control("Punkt2").captionText(), "Punkt P2");
+  EXPECT_EQ(d.control("Punkt3").captionText(), "Punkt P3");
+  EXPECT_EQ(d.control("Label", 0).captionText(), "&T=");
+  EXPECT_EQ(d.control("OptionTangente").value(), 1);
+  EXPECT_EQ(d.control("ErgLabel", 0).captionText(), "Radius");
+  EXPECT_EQ(d.control("ErgLabel", 1).captionText(), "Tangente");
+  EXPECT_EQ(d.control("ErgLabel", 2).captionText(), "ω");
+  EXPECT_EQ(d.control("ErgLabel", 3).captionText(), "Bogen b");
+  EXPECT_EQ(d.control("ErgLabel", 4).captionText(), "ds");
+  EXPECT_EQ(d.control("Ergebnis", 0).captionText(), "Ergebnis 1.Tangentenpunkt");
+  EXPECT_EQ(d.control("Ergebnis", 1).captionText(), "Ergebnis 2.Tangentenpunkt");
+  EXPECT_EQ(d.control("LabelA", 0).captionText(), "X1 =");
+  EXPECT_EQ(d.control("LabelB", 1).captionText(), "Y2 =");
+}
+
+TEST_F(AusrundungTest, EachOptionNamesTheField) {
+  RechenDialog& d = oeffnen();
+  const std::pair<const char*, const char*> faelle[] = {{"OptionRadius", "&R="},
+                                                        {"OptionSehne", "&S="},
+                                                        {"OptionBogen", "&b="},
+                                                        {"optionDS", "&ds="},
+                                                        {"OptionTangente", "&T="}};
+  for (const auto& [option, caption] : faelle) {
+    d.control(option).click();
+    EXPECT_EQ(d.control("Label", 0).captionText(), caption) << option;
+    EXPECT_EQ(d.control(option).value(), 1);
+  }
+  EXPECT_EQ(d.control("OptionRadius").value(), 0) << "one option at a time";
+  EXPECT_EQ(d.control("OptionRadius").captionText(), "&Radius");
+  EXPECT_EQ(d.control("OptionTangente").captionText(), "&Tangentenlänge");
+  EXPECT_EQ(d.control("OptionSehne").captionText(), "S&ehne");
+  EXPECT_EQ(d.control("OptionBogen").captionText(), "B&ogenlänge");
+  EXPECT_EQ(d.control("optionDS").captionText(), "&ds (Gegenstich)");
+}
+
+TEST_F(AusrundungTest, FromTheTangentLengthInGon) {
+  stumpf();
+  RechenDialog& d = rechnen("OptionTangente", "20");
+  EXPECT_TRUE(u.meldungen().empty());
+  EXPECT_EQ(erg(d, 0), "60.000");
+  EXPECT_EQ(erg(d, 1), "20.000");
+  EXPECT_EQ(erg(d, 2), "159.033447") << "the interior angle at P2, not the turn";
+  EXPECT_EQ(erg(d, 3), "38.610");
+  EXPECT_EQ(erg(d, 4), "3.246");
+  EXPECT_EQ(d.control("ErgA", 0).captionText(), "80.000");
+  EXPECT_NEAR(d.Ergebnis(0).B, 0, 1e-6);
+  EXPECT_EQ(d.control("ErgA", 1).captionText(), "116.000");
+  EXPECT_EQ(d.control("ErgB", 1).captionText(), "12.000");
+  EXPECT_EQ(d.control("PktNr", 0).text(), "4");
+  EXPECT_EQ(d.control("PktNr", 1).text(), "4");
+}
+
+TEST_F(AusrundungTest, TheAngleIsShownInTheUsersUnit) {
+  stumpf();
+  u.zustand.WinkelFaktor = kPi / 180;
+  RechenDialog& d = rechnen("OptionTangente", "20");
+  EXPECT_EQ(erg(d, 2), "143.130102");
+  EXPECT_EQ(erg(d, 0), "60.000");
+  EXPECT_EQ(d.control("ErgA", 1).captionText(), "116.000");
+}
+
+TEST_F(AusrundungTest, FromRadiusChordAndArc) {
+  stumpf();
+  struct Fall {
+    const char* option;
+    const char* wert;
+    double r, t, b, t1a, t2a, t2b;
+  };
+  for (const Fall& f : {Fall{"OptionRadius", "60", 60, 20.000000014, 38.610, 79.999999986, 116.000000011, 12.000000008},
+                        Fall{"OptionSehne", "40", 63.245553164, 21.081851069, 40.699, 78.918148931, 116.865480855,
+                             12.649110642},
+                        Fall{"OptionBogen", "40", 62.159955015, 20.719985019, 40.000, 79.280014981, 116.575988015,
+                             12.431991011}}) {
+    RechenDialog& d = rechnen(f.option, f.wert);
+    EXPECT_NEAR(zahl(d, 0), f.r, 1e-6) << f.option;
+    EXPECT_NEAR(zahl(d, 1), f.t, 1e-6) << f.option;
+    EXPECT_NEAR(zahl(d, 3), f.b, 0.0005) << f.option;
+    EXPECT_NEAR(d.Ergebnis(0).A, f.t1a, 1e-6) << f.option;
+    EXPECT_NEAR(d.Ergebnis(0).B, 0, 1e-6) << f.option;
+    EXPECT_NEAR(d.Ergebnis(1).A, f.t2a, 1e-6) << f.option;
+    EXPECT_NEAR(d.Ergebnis(1).B, f.t2b, 1e-6) << f.option;
+  }
+  EXPECT_TRUE(u.meldungen().empty());
+}
+
+TEST_F(AusrundungTest, TheDsTypedComesBackOtherwiseUnlessTheCornerIsSquare) {
+  stumpf();
+  RechenDialog& d = rechnen("optionDS", "3.245553203");
+  EXPECT_NEAR(zahl(d, 0), 20.979585702, 1e-6);
+  EXPECT_NEAR(zahl(d, 1), 6.993195239, 1e-6);
+  EXPECT_EQ(erg(d, 4), "1.135") << "not the 3.246 typed";
+  EXPECT_NEAR(d.Ergebnis(1).A, 105.594556191, 1e-6);
+  EXPECT_NEAR(d.Ergebnis(1).B, 4.195917143, 1e-6);
+
+  neuHolen(d, 3, 100, 50);
+  d.control("Berechnen").click();
+  EXPECT_EQ(erg(d, 4), "3.246") << "unchanged field, but now the corner is square";
+  d.control("Param", 0).setText("5");
+  d.control("Berechnen").click();
+  EXPECT_EQ(erg(d, 2), "100.000");
+  EXPECT_EQ(erg(d, 4), "5.000");
+  EXPECT_NEAR(zahl(d, 0), 12.071067812, 1e-6);
+}
+
+TEST_F(AusrundungTest, ASharpCorner) {
+  u.punkt(1, 0, 0);
+  u.punkt(2, 100, 0);
+  u.punkt(3, 40, 80);
+  RechenDialog& d = rechnen("OptionRadius", "25");
+  EXPECT_EQ(erg(d, 1), "50.000");
+  EXPECT_EQ(erg(d, 2), "59.033447");
+  EXPECT_EQ(erg(d, 3), "55.357");
+  EXPECT_EQ(erg(d, 4), "30.902");
+  EXPECT_NEAR(d.Ergebnis(0).A, 49.999999974, 1e-6);
+  EXPECT_NEAR(d.Ergebnis(1).A, 69.999999985, 1e-6);
+  EXPECT_NEAR(d.Ergebnis(1).B, 40.000000021, 1e-6);
+}
+
+TEST_F(AusrundungTest, ATangentLongerThanTheSidesWarnsTwiceAndStillGivesThePoints) {
+  stumpf();
+  RechenDialog& d = rechnen("OptionTangente", "150");
+  ASSERT_EQ(u.meldungen().size(), 2u);
+  EXPECT_EQ(u.meldungen()[0].message.text, kWarnung1);
+  EXPECT_EQ(u.meldungen()[0].message.title, "Ausrundung");
+  EXPECT_EQ(u.meldungen()[0].message.icon, forms::Icon::Exclamation);
+  EXPECT_EQ(u.meldungen()[1].message.text, kWarnung2);
+  EXPECT_EQ(erg(d, 0), "450.000");
+  EXPECT_EQ(d.control("ErgA", 0).captionText(), "-50.000");
+  EXPECT_EQ(d.control("ErgA", 1).captionText(), "220.000");
+  EXPECT_EQ(d.control("ErgB", 1).captionText(), "90.000");
+
+  // Only the second side too short: P3 close to P2.
+  neuHolen(d, 3, 108, 6);
+  d.control("Param", 0).setText("20");
+  d.control("Berechnen").click();
+  ASSERT_EQ(u.meldungen().size(), 3u);
+  EXPECT_EQ(u.meldungen()[2].message.text, kWarnung2);
+}
+
+TEST_F(AusrundungTest, ThreePointsOnALineAreRefusedInOrderOrDoubledBack) {
+  u.punkt(1, 0, 0);
+  u.punkt(2, 100, 0);
+  u.punkt(3, 200, 0);
+  RechenDialog& d = rechnen("OptionRadius", "60");
+  ASSERT_EQ(u.meldungen().size(), 1u);
+  EXPECT_EQ(u.meldungen()[0].message.text, kGerade);
+  EXPECT_EQ(u.meldungen()[0].message.title, "Ausrundung");
+  EXPECT_EQ(u.meldungen()[0].message.icon, forms::Icon::Exclamation);
+  EXPECT_EQ(erg(d, 0), "");
+  EXPECT_EQ(d.control("ErgA", 0).captionText(), "");
+  EXPECT_EQ(d.control("PktNr", 0).text(), "");
+
+  neuHolen(d, 3, 50, 0);  // back toward P1
+  d.control("Berechnen").click();
+  ASSERT_EQ(u.meldungen().size(), 2u);
+  EXPECT_EQ(u.meldungen()[1].message.text, kGerade);
+
+  // P1 on P2 gives no angle either.
+  neuHolen(d, 1, 100, 0);
+  neuHolen(d, 3, 180, 60);
+  d.control("Berechnen").click();
+  ASSERT_EQ(u.meldungen().size(), 3u);
+  EXPECT_EQ(u.meldungen()[2].message.text, kGerade);
+}
+
+TEST_F(AusrundungTest, AFailedRunLeavesTheShownResults) {
+  stumpf();
+  RechenDialog& d = rechnen("OptionTangente", "20");
+  neuHolen(d, 3, 300, 0);
+  d.control("Berechnen").click();
+  ASSERT_EQ(u.meldungen().size(), 1u);
+  EXPECT_EQ(erg(d, 0), "60.000");
+  EXPECT_EQ(d.control("ErgA", 1).captionText(), "116.000");
+}
+
+TEST_F(AusrundungTest, BothTangentPointsAreStoredWithTheHeightsOfP1AndP2) {
+  stumpf();
+  RechenDialog& d = rechnen("OptionTangente", "20");
+  d.control("Speichern", 0).click();
+  d.control("PktNr", 1).setText("5");
+  d.control("Speichern", 1).click();
+  EXPECT_TRUE(u.meldungen().empty());
+  EXPECT_NEAR(u.zustand.Punkte[4].A, 80, 1e-6);
+  EXPECT_NEAR(u.zustand.Punkte[4].B, 0, 1e-6);
+  EXPECT_EQ(u.zustand.Punkte[4].C, 1.5);
+  EXPECT_NEAR(u.zustand.Punkte[5].A, 116, 1e-6);
+  EXPECT_NEAR(u.zustand.Punkte[5].B, 12, 1e-6);
+  EXPECT_EQ(u.zustand.Punkte[5].C, 2.5);
+  EXPECT_EQ(u.zustand.Punkte[1].A, 0) << "the input points are untouched";
+}
+
+TEST_F(AusrundungTest, UnderM31TheCaptionsChangeAndTheValuesNot) {
+  u.zustand.M31 = core::Wahr;
+  stumpf();
+  RechenDialog& d = rechnen("OptionTangente", "20");
+  EXPECT_EQ(d.control("LabelA", 0).captionText(), "Y1 =");
+  EXPECT_EQ(d.control("LabelB", 0).captionText(), "X1 =");
+  EXPECT_EQ(d.control("LabelA", 1).captionText(), "Y2 =");
+  EXPECT_NEAR(d.Ergebnis(1).A, 116, 1e-6);
+  EXPECT_NEAR(d.Ergebnis(1).B, 12, 1e-6);
+  EXPECT_EQ(erg(d, 2), "159.033447");
+}
+
+TEST_F(AusrundungTest, APolarTableInGonAndDegreesGetsPolarTangentPointsAndItsRecordsBack) {
+  struct Fall {
+    double faktor;
+    const char* omega;
+    double phiT1, phiT2, phiP1, phiP3;
+  };
+  for (const Fall& f : {Fall{kPi / 200, "114.805035", 47.867004407, 35.916808590, 62.566591630, 15.595826073},
+                        Fall{kPi / 180, "103.324531", 43.080303966, 32.325127731, 56.309932467, 14.036243466}}) {
+    MenueUmgebung v;
+    v.zustand.Polar = core::Wahr;
+    v.zustand.WinkelFaktor = f.faktor;
+    const double ecke[3][2] = {{20, 30}, {100, 90}, {160, 40}};
+    for (int i = 0; i < 3; ++i) {
+      double t = std::atan2(ecke[i][1], ecke[i][0]);
+      v.punkt(i + 1, std::hypot(ecke[i][0], ecke[i][1]), t / f.faktor);
+    }
+    RechenDialog& d = v.oeffnen("MnuKreisAusrundung", "Ausrundung");
+    d.control("PP1Nr").setText("1");
+    d.control("PP2Nr").setText("2");
+    d.control("PP3Nr").setText("3");
+    d.control("OptionRadius").click();
+    d.control("Param", 0).setText("30");
+    d.control("Berechnen").click();
+    EXPECT_TRUE(v.meldungen().empty());
+    EXPECT_EQ(d.control("LabelA", 0).captionText(), "e1 =");
+    EXPECT_EQ(d.control("LabelB", 1).captionText(), "Phi2 =");
+    EXPECT_EQ(d.control("Erg", 1).captionText(), "23.72467") << "a length is not converted";
+    EXPECT_EQ(d.control("Erg", 2).captionText(), f.omega);
+    EXPECT_NEAR(d.Ergebnis(0).A, 110.926319935, 1e-6);
+    EXPECT_NEAR(d.Ergebnis(0).B, f.phiT1, 1e-7);
+    EXPECT_NEAR(d.Ergebnis(1).A, 139.907647272, 1e-6);
+    EXPECT_NEAR(d.Ergebnis(1).B, f.phiT2, 1e-7);
+    EXPECT_NEAR(d.Eingabe(0).B, f.phiP1, 1e-7);
+    EXPECT_NEAR(d.Eingabe(2).A, 164.924225025, 1e-7);
+    EXPECT_NEAR(d.Eingabe(2).B, f.phiP3, 1e-7);
+    d.control("Speichern", 1).click();
+    EXPECT_NEAR(v.zustand.Punkte[4].B, f.phiT2, 1e-7);
+  }
+}
+
+}  // namespace
+}  // namespace kolm::calc::testing

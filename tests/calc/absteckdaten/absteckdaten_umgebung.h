@@ -9,7 +9,7 @@ struct AbsteckUmgebung : MenueUmgebung {
   // The run mode with station number, first source, count and first target.
   RechenDialog& lauf(const std::string& a, const std::string& p, const std::string& n, const std::string& s) {
     RechenDialog& d = oeffnen();
-    d.control("CheckMehrere").click();
+    d.control("CheckMehrere").setValue(1);
     d.control("PP1Nr").setText(a);
     d.control("PP2Nr").setText(p);
     d.control("Anz").setText(n);

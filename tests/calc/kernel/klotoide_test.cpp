@@ -28,6 +28,27 @@ TEST(KlotoidePunkt, WorkedPointsAgreeWithTheIntegral) {
   }
 }
 
+TEST(KlotoidePunkt, TheUnitClothoidAgreesWithTheTable) {
+  // A = 1, l = 0.1 .. 1.0 as a printed clothoid table gives them; the values
+  // by numerical integration in ../klotoide/data/klotoide_werte.py.
+  const double tafel[10][2] = {
+      {0.0999997500, 0.0001666664}, {0.1999920001, 0.0013332952}, {0.2999392557, 0.0044993491},
+      {0.3997440758, 0.0106617915}, {0.4992193149, 0.0208100934}, {0.5980589138, 0.0359167716},
+      {0.6958099102, 0.0569220322}, {0.7918467445, 0.0847112109}, {0.8853494275, 0.1200839053},
+      {0.9752876882, 0.1637140474}};
+  for (int i = 0; i < 10; ++i) {
+    const double l = (i + 1) / 10.0;
+    double x = 0, y = 0;
+    EXPECT_TRUE(KlotoidePunkt(1, l, x, y));
+    EXPECT_NEAR(x, tafel[i][0], 5e-9) << l;
+    EXPECT_NEAR(y, tafel[i][1], 5e-9) << l;
+    // The same curve scaled: A = 250, L = 250 l.
+    EXPECT_TRUE(KlotoidePunkt(250, 250 * l, x, y));
+    EXPECT_NEAR(x, 250 * tafel[i][0], 250 * 5e-9) << l;
+    EXPECT_NEAR(y, 250 * tafel[i][1], 250 * 5e-9) << l;
+  }
+}
+
 TEST(KlotoidePunkt, LengthZeroIsTheOrigin) {
   double x = 5, y = 5;
   EXPECT_TRUE(KlotoidePunkt(2, 0, x, y));

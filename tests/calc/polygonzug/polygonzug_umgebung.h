@@ -9,21 +9,17 @@
 
 namespace kolm::calc::testing {
 
-constexpr double kGon = kPi / 200;
-constexpr double kGrad = kPi / 180;
+using Schenkel = std::vector<std::pair<double, double>>;  // e, Phi
 
 struct PolygonzugUmgebung : MenueUmgebung {
-  RechenDialog& oeffnen() { return MenueUmgebung::oeffnen("MnuGerMittelnderPolygonzug", "Polygonzug"); }
-
-  // Legs (e, Phi) as the points erster, erster + 1, ...
-  void schenkel(int erster, const std::vector<std::pair<double, double>>& legs) {
+  // Legs as the points erster, erster + 1, ...
+  void schenkel(int erster, const Schenkel& legs) {
     for (const auto& [e, phi] : legs) punkt(erster++, e, phi);
   }
-
   // PA and PE by number, the range, Ausgleichen as asked, then Berechnen.
   RechenDialog& rechnen(const std::string& pa, const std::string& pe, const std::string& start,
                         const std::string& ende, bool ausgleichen) {
-    RechenDialog& d = oeffnen();
+    RechenDialog& d = oeffnen("MnuGerMittelnderPolygonzug", "Polygonzug");
     d.control("PP1Nr").setText(pa);
     d.control("PP2Nr").setText(pe);
     d.control("Param", 0).setText(start);
@@ -32,15 +28,16 @@ struct PolygonzugUmgebung : MenueUmgebung {
     d.control("Berechnen").click();
     return d;
   }
-
   const core::Punkt& p(int n) const { return zustand.Punkte[static_cast<size_t>(n)]; }
-
-  // The one message box shown so far, checked for text and icon.
-  void meldung(const std::string& text, forms::Icon icon) {
+  // The one message box shown so far.
+  void meldung(const std::string& text, forms::Icon icon = forms::Icon::None) {
     ASSERT_EQ(meldungen().size(), 1u);
     EXPECT_EQ(meldungen()[0].message.text, text);
     EXPECT_EQ(meldungen()[0].message.icon, icon);
   }
 };
+
+inline constexpr char kFliegend[] = "Berechnung des fliegenden Polygonzugs ist abgeschlossen!";
+inline constexpr char kAusgeglichen[] = "Berechnung des ausgeglichenen Polygonzugs ist abgeschlossen!";
 
 }  // namespace kolm::calc::testing

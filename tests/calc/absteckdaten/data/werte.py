@@ -76,3 +76,16 @@ for n in range(22, 27):
 print("Long run, point k = (k, 2k), A = (0, -1000), system 0 Altgrad")
 for k in (1, 2500, 4999):
     zeigen("k = %d" % k, (0.0, -1000.0), (float(k), 2.0 * k), 0, "Altgrad")
+
+# The macro scenarios in the demo project: A = point 900, sources 901..903.
+M_A = (1000.0, 2000.0)
+M_Q = {901: (1030.0, 2040.0), 902: (950.0, 2120.0), 903: (900.0, 1900.0)}
+print("Macro: Math.links Neugrad, M31 rechts Altgrad")
+for n, q in M_Q.items():
+    zeigen("system 0 Neugrad, %d" % n, M_A, q, 0, "Neugrad")
+    zeigen("system 1 Altgrad, %d" % n, M_A, q, 1, "Altgrad")
+print("Macro: the table made polar (system 0, gon); the run takes e/Phi as they stand")
+for n, q in M_Q.items():
+    gespeichert = absteckdaten((0.0, 0.0), q, 0, "Neugrad")
+    print("  %d stored as e = %.9f  Phi = %.9f" % ((n,) + gespeichert))
+    zeigen("run value of %d" % n, M_A, gespeichert, 0, "Neugrad")

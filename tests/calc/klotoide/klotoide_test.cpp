@@ -51,6 +51,16 @@ TEST_F(KlotoideTest, TheMenuOpensItWithItsCaptionsAndNothingToCalculate) {
   EXPECT_EQ(ergebnisse(d), leer);
 }
 
+TEST_F(KlotoideTest, TheBarButtonIsEnabledAndOpensItToo) {
+  forms::Control& knopf = u.anwendung.main()->control("KreisButton", 12);
+  EXPECT_EQ(knopf.toolTip(), "Klotoidenberechnung");
+  EXPECT_TRUE(knopf.enabled());
+  EXPECT_TRUE(u.anwendung.main()->control("MnuKreisKlotoide").enabled());
+  knopf.click();
+  ASSERT_NE(u.forms.find("FormKlotoide"), nullptr);
+  EXPECT_EQ(u.forms.find("FormKlotoide")->caption(), "Klotoidenberechnung");
+}
+
 TEST_F(KlotoideTest, TwoFilledFieldsShutTheThirdAndOfferBerechnen) {
   RechenDialog& d = oeffnen();
   d.control("Param", 0).setText("100");
@@ -124,6 +134,18 @@ TEST_F(KlotoideTest, WorkedElementsForEachPairOfGivenValues) {
     EXPECT_EQ(e, f.erg) << f.was;
     EXPECT_TRUE(v.meldungen().empty()) << f.was;
   }
+}
+
+TEST_F(KlotoideTest, NeitherThePolarNorTheM31TableChangesTheNumbers) {
+  u.zustand.Polar = core::Wahr;
+  u.zustand.M31 = core::Wahr;
+  u.zustand.Falschdrehend = core::Wahr;
+  RechenDialog& d = oeffnen();
+  eingeben(d, "100", "100", "");
+  d.control("Berechnen").click();
+  EXPECT_EQ(d.control("Param", 2).text(), "100.000");
+  EXPECT_EQ(ergebnisse(d), (std::vector<std::string>{"31.830989", "4.130", "49.586", "104.130", "34.148",
+                                                      "67.561", "97.529", "16.371", "98.893", "10.587737"}));
 }
 
 TEST_F(KlotoideTest, ASmallResultFilledInHasNoLeadingZero) {

@@ -96,6 +96,10 @@ zeige("one leg to PE (205, 310)", *reversed(ausgeglichen((200.0, 300.0), (205.0,
 print("polar PA (500, 300) = %.9f %.9f" % polar(500.0, 300.0, GON))
 print("polar PE (477.50, 442.10) = %.9f %.9f" % polar(477.50, 442.10, GON))
 
+# The M31 points as a polar table holds them: angle clockwise from X.
+for name, (y, x) in (("PA", (5000.0, 8000.0)), ("PE", (5159.30, 8116.60))):
+    print("M31 polar %s = %.9f %.9f" % (name, math.hypot(y, x), (math.atan2(y, x) % (2 * Pi)) / GON))
+
 # 7. 5000 legs of 1 m at 0 gon from (0, 0), PE (5000.5, 2).
 n = 5000
 fehler, punkte = ausgeglichen((0.0, 0.0), (5000.5, 2.0), [(1.0, 0.0)] * n, GON)

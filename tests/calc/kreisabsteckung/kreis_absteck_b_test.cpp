@@ -134,17 +134,5 @@ TEST_F(KreisAbsteckBTest, APolarTableInGonAndInDegreesGetsPolarResultsAndItsReco
   }
 }
 
-TEST_F(KreisAbsteckBTest, AHandTypedStartIsUsed) {
-  u.punkt(1, 1000, 2000);
-  RechenDialog& d = oeffnen();
-  d.control("PP1Nr").setText("1");
-  u.tippen("1030", "2040");
-  d.control("GetPP2").click();
-  d.control("Param", 0).setText("-25");
-  d.control("Berechnen").click();
-  EXPECT_NEAR(d.Ergebnis().A, 1007.150455313, 1e-6);
-  EXPECT_NEAR(d.Ergebnis().B, 2049.486068634, 1e-6);
-}
-
 }  // namespace
 }  // namespace kolm::calc::testing

@@ -66,12 +66,8 @@ print("Blunt corner P1=(0,0) P2=(100,0) P3=(180,60), gon")
 ecke = ((0.0, 0.0), (100.0, 0.0), (180.0, 60.0))
 for art, wert in (("T", 20), ("R", 60), ("S", 40), ("b", 40), ("ds", 3.245553203)):
     runden(*ecke, art, wert)
-print("  in degrees:")
-runden(*ecke, "T", 20, GRAD)
 print("Sharp corner P1=(0,0) P2=(100,0) P3=(40,80), gon")
-t1, t2 = runden((0.0, 0.0), (100.0, 0.0), (40.0, 80.0), "R", 25)
-print("  polar T1 %.9f %.9f  T2 %.9f %.9f (gon)" % (*polar(t1, GON), *polar(t2, GON)))
-print("  polar T1 %.9f %.9f  T2 %.9f %.9f (grad)" % (*polar(t1, GRAD), *polar(t2, GRAD)))
+runden((0.0, 0.0), (100.0, 0.0), (40.0, 80.0), "R", 25)
 print("General corner P1=(20,30) P2=(100,90) P3=(160,40), R=30")
 for faktor, name in ((GON, "gon"), (GRAD, "grad")):
     t1, t2 = runden((20.0, 30.0), (100.0, 90.0), (160.0, 40.0), "R", 30, faktor)

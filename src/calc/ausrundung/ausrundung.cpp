@@ -58,7 +58,7 @@ AusrundungForm::AusrundungForm(forms::Forms& forms, core::Anwendung& anwendung)
   // Side by side, so the dialog fits on a small screen: the elements beside
   // P3 and the field, the second tangent point beside the first.
   control("FrameErgebnis").at(2, 2, 2, 1);
-  control("Ergebnis", 1).at(5, 2);
+  control("Ergebnis", 1).at(control("Ergebnis", 0).placement().row, 2);
 }
 
 void AusrundungForm::Load() {

@@ -79,22 +79,23 @@ bool KlotoideForm::Rechnen() {
   double L = Param(0), A = Param(1), R = Param(2), tau = 0;
   // The empty field decides, tested in the order R, A, L.
   int gesucht = -1;
+  double* ausgefuellt = nullptr;
   if (numbers::IstLeer(control("Param", 2).text())) {
     tau = (L * L / (A * A)) / 2;
     R = A * A / L;
-    gesucht = 2;
+    gesucht = 2, ausgefuellt = &R;
   } else if (numbers::IstLeer(control("Param", 1).text())) {
     tau = (L / R) / 2;
     A = std::sqrt(L * R);
-    gesucht = 1;
+    gesucht = 1, ausgefuellt = &A;
   } else if (numbers::IstLeer(control("Param", 0).text())) {
     tau = (A * A / (R * R)) / 2;
     L = A * A / R;
-    gesucht = 0;
+    gesucht = 0, ausgefuellt = &L;
   }
-  if (gesucht >= 0) {
-    if (!Geht(tau) || !Geht(gesucht == 2 ? R : gesucht == 1 ? A : L)) return false;
-    control("Param", gesucht).setText(numbers::ZahlText(gesucht == 2 ? R : gesucht == 1 ? A : L, FesteForm));
+  if (ausgefuellt) {
+    if (!Geht(tau) || !Geht(*ausgefuellt)) return false;
+    control("Param", gesucht).setText(numbers::ZahlText(*ausgefuellt, FesteForm));
   }
 
   // The series without a step limit: it alternates, so it ends, unless a

@@ -37,8 +37,8 @@ KlotoideForm::KlotoideForm(forms::Forms& forms, core::Anwendung& anwendung)
   // The frame's Schließen gives way to Abbrechen, next to Löschen.
   control("Schließen").asCancel(false).hidden();
   const forms::Placement& p = control("Schließen").placement();
-  add(forms::ControlKind::CommandButton, "Löschen").caption("L&öschen").at(p.row, 1);
-  add(forms::ControlKind::CommandButton, "Abbrechen").caption("Abbre&chen").at(p.row + 1, 0).asCancel();
+  add(forms::ControlKind::CommandButton, "Löschen").caption("L&öschen").at(p.row + 1, 0);
+  add(forms::ControlKind::CommandButton, "Abbrechen").caption("Abbre&chen").at(p.row + 1, 1).asCancel();
   on("Löschen", forms::Event::Click, [this](forms::Control&, forms::EventArgs&) { Loeschen(); });
   on("Abbrechen", forms::Event::Click, [this](forms::Control&, forms::EventArgs&) { this->forms().unload(*this); });
   control("Berechnen").disabled();

@@ -3,6 +3,7 @@
 #include <cmath>
 #include <string>
 
+#include "calc/kernel/klassisch.h"
 #include "core/app/anwendung.h"
 #include "points/eingabe/punkt_speichern.h"
 #include "points/koordinaten.h"
@@ -12,6 +13,8 @@ namespace kolm::calc {
 
 using forms::ControlKind;
 using forms::Event;
+// A sum that overflows is skipped and leaves its target as it was.
+using kernel::klassisch::Zuweisen;
 
 namespace {
 
@@ -157,8 +160,8 @@ void PolygonzugForm::Fliegend(int s, int t) {
   for (int i = s; i <= t; ++i) {
     core::Punkt& p = z.Punkte[static_cast<size_t>(i)];
     points::PolarZuRechtwinklig(z, p.A, p.B);
-    p.A = ca + p.A;
-    p.B = cb + p.B;
+    Zuweisen(p.A, ca + p.A);
+    Zuweisen(p.B, cb + p.B);
     ca = p.A;
     cb = p.B;
   }
@@ -174,12 +177,14 @@ bool PolygonzugForm::Ausgeglichen(int s, int t) {
   for (int i = s; i <= t; ++i) {
     const core::Punkt& p = z.Punkte[static_cast<size_t>(i)];
     double a = p.A, b = p.B;
-    summe += a;
+    Zuweisen(summe, summe + a);
     points::PolarZuRechtwinklig(z, a, b);
-    sa += a;
-    sb += b;
+    Zuweisen(sa, sa + a);
+    Zuweisen(sb, sb + b);
   }
-  const double da = pe.A - pa.A - sa, db = pe.B - pa.B - sb;
+  double da = 0, db = 0;
+  Zuweisen(da, pe.A - pa.A - sa);
+  Zuweisen(db, pe.B - pa.B - sb);
   core::Punkt& fehler = Ergebnis();
   fehler.A = da;
   fehler.B = db;
@@ -198,8 +203,8 @@ bool PolygonzugForm::Ausgeglichen(int s, int t) {
     core::Punkt& p = z.Punkte[static_cast<size_t>(i)];
     const double anteil = summe != 0 ? p.A / summe : 0;
     points::PolarZuRechtwinklig(z, p.A, p.B);
-    p.A = ca + p.A + anteil * da;
-    p.B = cb + p.B + anteil * db;
+    Zuweisen(p.A, ca + p.A + anteil * da);
+    Zuweisen(p.B, cb + p.B + anteil * db);
     ca = p.A;
     cb = p.B;
   }

@@ -112,6 +112,17 @@ TEST_F(PolygonzugGrenzen, LegsWithoutLengthAskNothingAndStayOnPA) {
   EXPECT_EQ(d.control("ErgB").captionText(), "700.000");
 }
 
+TEST_F(PolygonzugGrenzen, AnOverflowingSumIsSkippedAndNothingInfiniteIsStored) {
+  u.schenkel(10, {{1e308, 0}, {1e308, 0}});
+  u.punkt(2, 0, 0);
+  u.rechnen("1", "", "10", "11", false);
+  EXPECT_EQ(u.p(11).A, 1e308) << "the sum is skipped: the leg's own part stays";
+  u.schenkel(10, {{1e308, 0}, {1e308, 0}});
+  RechenDialog& d = u.rechnen("1", "2", "10", "11", true);
+  for (double x : {u.p(10).A, u.p(10).B, u.p(11).A, u.p(11).B, d.Ergebnis().A, d.Ergebnis().B})
+    EXPECT_TRUE(std::isfinite(x)) << x;
+}
+
 TEST_F(PolygonzugGrenzen, AnEmptySlotTakesItsPredecessorAndASecondRunReadsResultsAsLegs) {
   u.punkt(11, 0, 0);
   u.punkt(12, 5, 100);

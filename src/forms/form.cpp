@@ -18,6 +18,10 @@ Form::~Form() = default;
 
 Services& Form::services() const { return forms_.services(); }
 
+void Form::showHelp() {
+  if (!helpTopic_.empty() && services().help) services().help->showTopic(helpTopic_);
+}
+
 void Form::setCaption(std::string caption) {
   if (caption_ == caption) return;
   caption_ = std::move(caption);
@@ -157,6 +161,11 @@ bool TypesText(const Control& c) {
 Form::KeyResult Form::handleKey(Control& control, int keyCode, int shift, char32_t ch) {
   if (active_ != &control) setActiveControl(&control);
 
+  // F1 belongs to the form, whichever of its controls has the focus.
+  if (keyCode == keys::F1 && !helpTopic_.empty()) {
+    showHelp();
+    return {true, 0, 0};
+  }
   // Enter and Esc go to the form's default and cancel buttons first.
   if (keyCode == keys::Return && !(TypesText(control) && control.isMultiLine()) &&
       control.kind() != ControlKind::CommandButton) {

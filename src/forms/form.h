@@ -39,6 +39,11 @@ class Form {
   const std::string& name() const { return name_; }
   const std::string& caption() const { return caption_; }
   void setCaption(std::string caption);
+  // The help topic F1 opens while the form has the focus; none when empty.
+  const std::string& helpTopic() const { return helpTopic_; }
+  void setHelpTopic(std::string topic) { helpTopic_ = std::move(topic); }
+  // What F1 does: the form's topic in the help window.
+  void showHelp();
   Forms& forms() const { return forms_; }
   Services& services() const;
 
@@ -118,7 +123,7 @@ class Form {
   void moveInList(Control& list, int keyCode);
 
   Forms& forms_;
-  std::string name_, caption_;
+  std::string name_, caption_, helpTopic_;
   std::vector<std::unique_ptr<Control>> controls_;
   std::multimap<std::string, Control*> byName_;
   std::map<std::pair<std::string, Event>, Handler> handlers_;

@@ -1,6 +1,8 @@
 // Keys as the user types them: handlers first, then the field edits.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "forms/keys.h"
 #include "test_forms.h"
 
@@ -68,6 +70,21 @@ TEST(Typing, EscapePressesTheCancelButton) {
   Eingabe& e = f.eingabe();
   e.sendKey(e.control("Param", 0), keys::Escape, 0, 27);
   EXPECT_EQ(f.forms.FormGeladen("Eingabe"), -1) << "the cancel button closes the dialog";
+}
+
+TEST(Typing, F1OpensTheFormsHelpTopicFromAnyControlOrPassesOnWithoutOne) {
+  FormsFixture f;
+  Eingabe& e = f.eingabe();
+  e.sendKey(e.control("PP1Nr"), keys::F1, 0, 0);
+  EXPECT_TRUE(f.scripted.help.topics().empty()) << "no topic: nothing opens";
+  EXPECT_EQ(e.log.back(), "KeyDown 112") << "the key reaches the field's handler";
+
+  e.setHelpTopic("Vorwärtsschnitt");
+  e.log.clear();
+  e.sendKey(e.control("PP1Nr"), keys::F1, 0, 0);
+  e.sendKey(e.control("Berechnen"), keys::F1, 0, 0);
+  EXPECT_EQ(f.scripted.help.topics(), (std::vector<std::string>{"Vorwärtsschnitt", "Vorwärtsschnitt"}));
+  EXPECT_EQ(std::count(e.log.begin(), e.log.end(), "KeyDown 112"), 0) << "the form took the key";
 }
 
 TEST(Typing, MovingTheDefaultButtonMovesWhatEnterPresses) {

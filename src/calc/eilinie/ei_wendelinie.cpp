@@ -38,10 +38,6 @@ EiWendelinieForm::EiWendelinieForm(forms::Forms& forms, core::Anwendung& anwendu
   WendelinieZeichnen(control("Image2").picture());
   // Carries the sign; the menu entry writes it, nobody sees it.
   add(ControlKind::Label, "F").caption("Hier wird der Wert für F% eingetragen").at(4, 0).hidden();
-  // The topic of the sketch follows the case.
-  on("Skizze", Event::Click, [this](forms::Control&, forms::EventArgs&) {
-    if (services().help) services().help->showTopic(thema_);
-  });
   FGeaendert();
 }
 
@@ -61,7 +57,7 @@ void EiWendelinieForm::FGeaendert() {
   control("Image1").setVisible(ei);
   control("Image2").setVisible(!ei);
   control("ErgLabel", 3).setCaption(ei ? "L1 - L2" : "L1 + L2");
-  thema_ = c;
+  setHelpTopic(c);  // the sketch follows the case
   Fehlermeldung("Bei der Berechnung zur " + c +
                     " sind Fehler aufgetreten. Geben Sie bitte vernünftige Parameter an und versuchen Sie es erneut!",
                 c + " berechnen");

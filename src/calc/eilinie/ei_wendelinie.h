@@ -18,7 +18,6 @@ class EiWendelinieForm : public RechenDialog {
   void FSetzen(const std::string& text);
   bool IstEilinie() const;
   // The help topic of Skizze, and its number in the old help file.
-  const std::string& SkizzenThema() const { return thema_; }
   int HilfeNummer() const { return IstEilinie() ? 4020 : 4030; }
 
  protected:
@@ -26,7 +25,6 @@ class EiWendelinieForm : public RechenDialog {
 
  private:
   void FGeaendert();
-  std::string thema_;
 };
 
 // The pictures of the two cases, drawn from a real clothoid with its

@@ -37,15 +37,15 @@ std::pair<std::string, std::string> ErgebnisBeschriftung(const core::Zustand& z,
 
 RechenDialog::RechenDialog(forms::Forms& forms, core::Anwendung& anwendung, std::string name,
                            std::string caption, std::string skizze)
-    : Form(forms, std::move(name), std::move(caption)), anwendung_(anwendung), skizze_(std::move(skizze)) {
+    : Form(forms, std::move(name), std::move(caption)), anwendung_(anwendung) {
   setResizable(false);
   add(ControlKind::CommandButton, "Berechnen").caption("&Berechnen").at(KnopfZeile, 0).asDefault();
   on("Berechnen", Event::Click, [this](forms::Control&, forms::EventArgs&) { Berechnen(); });
-  if (!skizze_.empty()) {
+  if (!skizze.empty()) {
+    // The sketch is the dialog's help topic: Skizze does what F1 does.
+    setHelpTopic(std::move(skizze));
     add(ControlKind::CommandButton, "Skizze").caption("S&kizze").at(KnopfZeile, 1);
-    on("Skizze", Event::Click, [this](forms::Control&, forms::EventArgs&) {
-      if (services().help) services().help->showTopic(skizze_);
-    });
+    on("Skizze", Event::Click, [this](forms::Control&, forms::EventArgs&) { showHelp(); });
   }
   add(ControlKind::CommandButton, "Schließen").caption("S&chließen").at(KnopfZeile + 1, 0).asCancel();
   on("Schließen", Event::Click, [this](forms::Control&, forms::EventArgs&) { this->forms().unload(*this); });

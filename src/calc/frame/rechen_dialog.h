@@ -109,7 +109,6 @@ class RechenDialog : public forms::Form {
   int ErgebnisVonIndex(int index) const;
 
   core::Anwendung& anwendung_;
-  std::string skizze_;
   std::string fehlerText_, fehlerTitel_;
   std::vector<Eingang> eingaben_;
   std::vector<Ausgang> ergebnisse_;

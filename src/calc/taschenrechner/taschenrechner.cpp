@@ -39,6 +39,7 @@ std::optional<double> ZahlWennZahl(const std::string& text) {
 TaschenrechnerForm::TaschenrechnerForm(forms::Forms& forms, core::Anwendung& anwendung)
     : Form(forms, "Taschenrechner", "Taschenrechner"), anwendung_(anwendung) {
   setResizable(false);
+  setHelpTopic("Taschenrechner");
   add(ControlKind::ListBox, "Stack").at(0, 0, 1, 5).tip("Der Stack: unten steht der oberste Wert (y)");
   add(ControlKind::TextBox, "Text").at(1, 0, 1, 5).draggable().dropTarget()
       .tip("X: Zahl eintippen, Operatoren + - * / % ! ^ rechnen sofort, Leertaste wechselt das Vorzeichen");
@@ -127,11 +128,6 @@ TaschenrechnerForm::TaschenrechnerForm(forms::Forms& forms, core::Anwendung& anw
   on("Einfügen", Event::Click, [this](forms::Control&, forms::EventArgs&) { Einfuegen(); });
 
   on("Text", Event::KeyPress, [this](forms::Control& feld, forms::EventArgs& args) { Tasten(feld, args); });
-  on("Text", Event::KeyDown, [this](forms::Control&, forms::EventArgs& args) {
-    if (args.keyCode != forms::keys::F1) return;
-    args.keyCode = 0;
-    if (services().help) services().help->showTopic("Taschenrechner");
-  });
   on("Text", Event::DragDrop, [this](forms::Control&, forms::EventArgs& args) {
     if (!args.source) return;
     if (const std::optional<double> wert = ZahlAusQuelle(*args.source)) WertSetzen(*wert);

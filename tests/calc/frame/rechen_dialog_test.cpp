@@ -361,12 +361,13 @@ TEST(RechenDialog, TwoResultPointsAreOfferedTheSameNumberAndStoredEachByItsButto
   EXPECT_DOUBLE_EQ(u.zustand.Punkte[6].A, 11);
 }
 
-TEST(RechenDialog, SkizzeShowsTheHelpTopicAndSchliessenUnloads) {
+TEST(RechenDialog, SkizzeAndF1ShowTheSketchAndSchliessenUnloads) {
   Umgebung u;
   Probe& d = u.probe();
   d.control("Skizze").click();
-  ASSERT_EQ(u.dienste.help.topics().size(), 1u);
-  EXPECT_EQ(u.dienste.help.topics()[0], "Probe-Skizze");
+  d.sendKey(d.control("Param", 0), forms::keys::F1, 0, 0);
+  EXPECT_EQ(u.dienste.help.topics(), (std::vector<std::string>{"Probe-Skizze", "Probe-Skizze"}))
+      << "Skizze and F1 in a field open the sketch";
   d.control("Schließen").click();
   EXPECT_EQ(u.forms.FormGeladen("Probe"), -1);
 }

@@ -107,8 +107,12 @@ TEST(PolygonzugTest, WorkedTraversesOverwriteTheLegsWithCoordinates) {
     EXPECT_EQ(u.p(ende + 1).A, 0) << "nothing after it";
     EXPECT_EQ(u.p(1).A, f.pa.A) << "PA stays";
     EXPECT_TRUE(u.zustand.TabelleGeaendert);
-    if (f.ergA) EXPECT_EQ(d.control("ErgA").captionText(), f.ergA);
-    if (f.ergB) EXPECT_EQ(d.control("ErgB").captionText(), f.ergB);
+    if (f.ergA) {
+      EXPECT_EQ(d.control("ErgA").captionText(), f.ergA);
+    }
+    if (f.ergB) {
+      EXPECT_EQ(d.control("ErgB").captionText(), f.ergB);
+    }
     EXPECT_EQ(d.control("PktNr").text(), f.ausgleichen ? "151" : "");
     EXPECT_EQ(d.activeControl(), &d.control(f.ausgleichen ? "PktNr" : "Schließen"));
     EXPECT_NEAR(d.Eingabe(0).A, f.pa.A, 1e-6) << "PA back in the table's form";

@@ -184,6 +184,15 @@ TEST_F(FormViewFixture, TabControlPagesHoldTheirControls) {
 
 // ---- typing -------------------------------------------------------------------------------------
 
+TEST_F(FormViewFixture, F1InAFieldOpensTheFormsHelpTopicAndLeavesTheText) {
+  form->setHelpTopic("Punkt");
+  auto* nr = widget<QLineEdit>("Nr");
+  QTest::keyClicks(nr, "7");
+  QTest::keyClick(nr, Qt::Key_F1);
+  EXPECT_EQ(scripted.help.topics(), (std::vector<std::string>{"Punkt"}));
+  EXPECT_EQ(control("Nr").text(), "7");
+}
+
 TEST_F(FormViewFixture, TypingReachesTheModelWithChangeAndKeyPress) {
   auto* nr = widget<QLineEdit>("Nr");
   QTest::keyClicks(nr, "12a");

@@ -1,4 +1,4 @@
-#include "calc/absteckdaten/verdrahtung.h"
+#include "calc/familien.h"
 
 #include <memory>
 

@@ -1,4 +1,4 @@
-#include "calc/anschluss/verdrahtung.h"
+#include "calc/familien.h"
 
 #include <memory>
 

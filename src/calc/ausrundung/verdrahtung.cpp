@@ -1,4 +1,4 @@
-#include "calc/ausrundung/verdrahtung.h"
+#include "calc/familien.h"
 
 #include <memory>
 

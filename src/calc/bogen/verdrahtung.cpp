@@ -1,4 +1,4 @@
-#include "calc/bogen/verdrahtung.h"
+#include "calc/familien.h"
 
 #include <memory>
 

@@ -1,4 +1,4 @@
-#include "calc/eilinie/verdrahtung.h"
+#include "calc/familien.h"
 
 #include <memory>
 

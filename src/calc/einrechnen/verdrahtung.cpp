@@ -1,4 +1,4 @@
-#include "calc/einrechnen/verdrahtung.h"
+#include "calc/familien.h"
 
 #include <memory>
 

@@ -1,4 +1,4 @@
-#include "calc/geraden/verdrahtung.h"
+#include "calc/familien.h"
 
 #include <memory>
 

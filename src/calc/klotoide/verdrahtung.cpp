@@ -1,4 +1,4 @@
-#include "calc/klotoide/verdrahtung.h"
+#include "calc/familien.h"
 
 #include <memory>
 

@@ -1,4 +1,4 @@
-#include "calc/kreisabsteckung/verdrahtung.h"
+#include "calc/familien.h"
 
 #include <memory>
 

@@ -1,4 +1,4 @@
-#include "calc/kreise/verdrahtung.h"
+#include "calc/familien.h"
 
 #include <memory>
 

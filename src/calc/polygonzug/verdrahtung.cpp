@@ -1,4 +1,4 @@
-#include "calc/polygonzug/verdrahtung.h"
+#include "calc/familien.h"
 
 #include <memory>
 

@@ -1,4 +1,4 @@
-#include "calc/schnitt/verdrahtung.h"
+#include "calc/familien.h"
 
 #include "calc/schnitt/rueckwaertsschnitt.h"
 #include "calc/schnitt/vorwaertsschnitt.h"

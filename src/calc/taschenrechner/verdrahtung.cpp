@@ -1,4 +1,4 @@
-#include "calc/taschenrechner/verdrahtung.h"
+#include "calc/familien.h"
 
 #include <memory>
 

@@ -1,7 +1,6 @@
 #include "calc/verdrahtung.h"
 
 #include "calc/distanz.h"
-#include "calc/familien.h"
 #include "core/app/anwendung.h"
 #include "core/main/main_form.h"
 

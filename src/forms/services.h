@@ -17,6 +17,9 @@ enum class Icon { None, Critical, Question, Exclamation, Information };
 // Values as the classic message box returns them.
 enum class Answer { OK = 1, Cancel = 2, Abort = 3, Retry = 4, Ignore = 5, Yes = 6, No = 7 };
 
+// The title of a box that has none of its own, and of the main window.
+inline constexpr char ProgrammName[] = "Kolm";
+
 struct Message {
   std::string text;
   std::string title;

@@ -99,7 +99,7 @@ QString Lines(const std::string& text) {
 Answer QtMessages::show(const forms::Message& message) {
   QMessageBox box(ParentOr(parent_));
   box.setIcon(MessageIconOf(message.icon));
-  box.setWindowTitle(message.title.empty() ? QStringLiteral("Kolm") : QString::fromStdString(message.title));
+  box.setWindowTitle(message.title.empty() ? QString::fromUtf8(forms::ProgrammName) : QString::fromStdString(message.title));
   box.setTextFormat(Qt::PlainText);
   box.setText(Lines(message.text));
   const std::vector<Answer> answers = forms::AnswersOf(message.buttons);
@@ -117,7 +117,7 @@ Answer QtMessages::show(const forms::Message& message) {
 std::optional<std::string> QtInput::ask(const std::string& prompt, const std::string& title,
                                         const std::string& defaultText) {
   QInputDialog dialog(ParentOr(parent_));
-  dialog.setWindowTitle(title.empty() ? QStringLiteral("Kolm") : QString::fromStdString(title));
+  dialog.setWindowTitle(title.empty() ? QString::fromUtf8(forms::ProgrammName) : QString::fromStdString(title));
   dialog.setLabelText(Lines(prompt));
   dialog.setTextValue(QString::fromStdString(defaultText));
   dialog.setOkButtonText(QStringLiteral("OK"));

@@ -17,8 +17,6 @@ namespace {
 // line, every so many points.
 constexpr int kLangerLauf = 1000;
 constexpr int kMeldeSchritt = 500;
-// A message box without a title of its own bears the program's name.
-constexpr char kProgramm[] = "Kolm";
 
 std::string Ganz(double wert) { return std::to_string(static_cast<long long>(wert)); }
 }  // namespace
@@ -93,7 +91,7 @@ bool AbsteckdatenForm::Rechnen() {
 
 void AbsteckdatenForm::Abbruch(const std::string& text, const char* feld) {
   if (forms::MessageService* m = services().messages)
-    m->show({text, kProgramm, forms::Buttons::OK, forms::Icon::Critical});
+    m->show({text, forms::ProgrammName, forms::Buttons::OK, forms::Icon::Critical});
   control(feld).setFocus();
 }
 
@@ -202,10 +200,10 @@ bool AbsteckdatenForm::MehrereRechnen() {
   control("ErgB").setCaption("");
   if (forms::MessageService* m = services().messages) {
     if (ueberlauf)
-      m->show({"Fehler 6:  Overflow\nBeim Berechnen der Absteckdaten trat folgender Fehler auf:", kProgramm,
+      m->show({"Fehler 6:  Overflow\nBeim Berechnen der Absteckdaten trat folgender Fehler auf:", forms::ProgrammName,
                forms::Buttons::OK, forms::Icon::None});
     else
-      m->show({"Die Absteckdaten wurden erfolgreich berechnet!", kProgramm, forms::Buttons::OK,
+      m->show({"Die Absteckdaten wurden erfolgreich berechnet!", forms::ProgrammName, forms::Buttons::OK,
                forms::Icon::Information});
   }
   return true;

@@ -16,7 +16,7 @@ DirekterAnschlussForm::DirekterAnschlussForm(forms::Forms& forms, core::Anwendun
   Parameter(2, "β");
   ErgebnisPunkt(-1, "Ergebnis: Standpunkt S");
   // A box without a title of its own bears the program's name.
-  Fehlermeldung("Mit diesen Parametern ist kein direkter Anschluß berechenbar!", "Kolm");
+  Fehlermeldung("Mit diesen Parametern ist kein direkter Anschluß berechenbar!", forms::ProgrammName);
 }
 
 bool DirekterAnschlussForm::Rechnen() {

@@ -17,7 +17,7 @@ IndirekterAnschlussForm::IndirekterAnschlussForm(forms::Forms& forms, core::Anwe
   Parameter(3, "λ");
   ErgebnisPunkt(-1, "Ergebnis: Standpunkt S");
   // A box without a title of its own bears the program's name.
-  Fehlermeldung("Mit diesen Parametern ist kein indirekter Anschluß berechenbar!", "Kolm");
+  Fehlermeldung("Mit diesen Parametern ist kein indirekter Anschluß berechenbar!", forms::ProgrammName);
 }
 
 bool IndirekterAnschlussForm::Rechnen() {

@@ -1,4 +1,4 @@
-#include "calc/familien.h"
+#include "calc/verdrahtung.h"
 
 #include <memory>
 

@@ -1,4 +1,4 @@
-#include "calc/familien.h"
+#include "calc/verdrahtung.h"
 
 #include "calc/schnitt/rueckwaertsschnitt.h"
 #include "calc/schnitt/vorwaertsschnitt.h"

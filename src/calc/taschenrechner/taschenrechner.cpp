@@ -210,7 +210,7 @@ bool TaschenrechnerForm::Zeigbar(double wert) {
   if (std::isnan(wert)) return false;  // a failed statement: nothing changes
   if (std::isinf(wert)) {
     if (services().messages)
-      services().messages->show({std::string(numbers::UeberlaufMeldung), "Kolm", forms::Buttons::OK,
+      services().messages->show({std::string(numbers::UeberlaufMeldung), forms::ProgrammName, forms::Buttons::OK,
                                  forms::Icon::Critical});
     return false;
   }

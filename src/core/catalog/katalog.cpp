@@ -227,7 +227,7 @@ bool Nachher(const Tabelle& a, const Tabelle& b, std::size_t buchstaben) {
 forms::Message KeinKatalogMeldung(const std::string& verzeichnis) {
   forms::Message m;
   m.text = "Im Verzeichnis " + verzeichnis + " existiert keine Datei " + KatalogDateiAlt + "!";
-  m.title = "Kolm";
+  m.title = forms::ProgrammName;
   m.icon = forms::Icon::Exclamation;
   return m;
 }

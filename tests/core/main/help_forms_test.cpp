@@ -1,6 +1,8 @@
 #include "core/main/help_forms.h"
 
 #include <gtest/gtest.h>
+
+#include <set>
 #include <unistd.h>
 
 #include <filesystem>
@@ -167,6 +169,15 @@ TEST_F(HelpFixture, CloseButtonClosesTheWindow) {
   EXPECT_EQ(forms.find("Hilfe"), nullptr);
   help.showTopic("menue_datei");
   EXPECT_EQ(hilfe().currentTopic(), "menue_datei");
+}
+
+TEST(InstalledHelp, EveryPageOfTheHelpFolderIsListed) {
+  std::set<std::string> listed;
+  for (const HelpTopic& topic : HelpTopics()) listed.insert(topic.file);
+  for (const auto& entry : fs::directory_iterator(InstalledHelp())) {
+    if (entry.path().extension() != ".html") continue;
+    EXPECT_TRUE(listed.count(entry.path().stem().string())) << entry.path().filename() << " cannot be found";
+  }
 }
 
 TEST(InstalledHelp, EveryListedTopicHasAReadablePage) {

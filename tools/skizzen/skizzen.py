@@ -102,6 +102,22 @@ class Skizze:
             self.text((m[0] + (r + abstand) * math.cos(w), m[1] + (r + abstand) * math.sin(w)), name, farbe, 15,
                       kursiv=True)
 
+    def kreisbogen(self, m, r, w1, w2, farbe=SCHWARZ, breite=2.0, strich=False, pfeil=False, fuellung=None):
+        """Kreisbogen um m von w1 nach w2 (Grad); gegen den Uhrzeigersinn, wenn w2 >= w1.
+        Mit fuellung das Segment zwischen Bogen und Sehne."""
+        a, e = self._p(*auf(m, r, w1)), self._p(*auf(m, r, w2))
+        gross = 1 if abs(w2 - w1) > 180 else 0
+        # Im Bild zaehlt y nach unten: sweep 1 ist dort der Uhrzeigersinn.
+        sweep = 1 if w2 < w1 else 0
+        d = "M %.1f %.1f A %.1f %.1f 0 %d %d %.1f %.1f" % (a[0], a[1], r, r, gross, sweep, e[0], e[1])
+        if fuellung:
+            self.teile.append('<path d="%s z" fill="%s" stroke="none"/>' % (d, fuellung))
+            return
+        extra = ' stroke-dasharray="6,4"' if strich else ""
+        if pfeil:
+            extra += ' marker-end="url(#spitze%s)"' % ("B" if farbe == BLAU else "S")
+        self.teile.append('<path d="%s" fill="none" stroke="%s" stroke-width="%.1f"%s/>' % (d, farbe, breite, extra))
+
     def achsen(self, ursprung=(22, 200), laenge=34):
         """Kleines Achsenkreuz der Zeichenebene, beschriftet fuer M31 rechts."""
         x, y = ursprung
@@ -127,6 +143,11 @@ class Skizze:
 def richtung(a, b):
     """Richtung von a nach b in Grad, gegen den Uhrzeigersinn von rechts."""
     return math.degrees(math.atan2(b[1] - a[1], b[0] - a[0]))
+
+
+def auf(m, r, w):
+    """Punkt des Kreises um m mit Radius r in Richtung w (Grad)."""
+    return m[0] + r * math.cos(math.radians(w)), m[1] + r * math.sin(math.radians(w))
 
 
 def mitte(a, b, t=0.5):

@@ -5,26 +5,7 @@ rechts der Sehne (in der Skizze unten), der Tangentenschnittpunkt W links.
 """
 import math
 
-from skizzen import BLAU, GRAU, SCHWARZ, Skizze, mitte, versetzt
-
-
-def _auf(m, r, w):
-    """Punkt des Kreises um m mit Radius r in Richtung w (Grad)."""
-    return m[0] + r * math.cos(math.radians(w)), m[1] + r * math.sin(math.radians(w))
-
-
-def _kreisbogen(s, m, r, w1, w2, farbe=SCHWARZ, breite=2.2, fuellung=None):
-    """Kreisbogen um m von w1 nach w2 (Grad, gegen den Uhrzeigersinn);
-    mit fuellung als Segment zwischen Bogen und Sehne."""
-    a = s._p(*_auf(m, r, w1))
-    e = s._p(*_auf(m, r, w2))
-    gross = 1 if (w2 - w1) % 360 > 180 else 0
-    # Im Bild zaehlt y nach unten: gegen den Uhrzeigersinn ist dort sweep 0.
-    d = "M %.1f %.1f A %.1f %.1f 0 %d 0 %.1f %.1f" % (a[0], a[1], r, r, gross, e[0], e[1])
-    if fuellung:
-        s.teile.append('<path d="%s z" fill="%s" stroke="none"/>' % (d, fuellung))
-    else:
-        s.teile.append('<path d="%s" fill="none" stroke="%s" stroke-width="%.1f"/>' % (d, farbe, breite))
+from skizzen import BLAU, GRAU, SCHWARZ, Skizze, auf, mitte, versetzt
 
 
 def _masslinie(s, a, b, name, abstand, farbe=BLAU, t=0.5):
@@ -39,8 +20,8 @@ def bogen_elemente():
     halb = 50  # alpha / 2 in Grad
     r = 128
     m = (180, 22)
-    ba, be = _auf(m, r, 90 + halb), _auf(m, r, 90 - halb)
-    bm = _auf(m, r, 90)
+    ba, be = auf(m, r, 90 + halb), auf(m, r, 90 - halb)
+    bm = auf(m, r, 90)
     sm = mitte(ba, be)
     w = (m[0], m[1] + r / math.cos(math.radians(halb)))
     # Radien und Winkel im Mittelpunkt
@@ -63,9 +44,9 @@ def bogen_elemente():
     _masslinie(s, bm, w, "ds", -13)
     _masslinie(s, (q_x, bm[1] + 9), (bm[0], bm[1] + 9), "ts", 10)
     # der Bogen selbst, rechtsdrehend von BA nach BE
-    _kreisbogen(s, m, r, 90 - halb, 90 + halb, BLAU)
-    s.bogen(m, r, _auf(m, r, 90 + 8), _auf(m, r, 90 - halb + 6), "", True)
-    s.text(_auf(m, r + 14, 90 + halb - 12), "b", BLAU, 15, kursiv=True)
+    s.kreisbogen(m, r, 90 - halb, 90 + halb, BLAU, 2.2)
+    s.bogen(m, r, auf(m, r, 90 + 8), auf(m, r, 90 - halb + 6), "", True)
+    s.text(auf(m, r + 14, 90 + halb - 12), "b", BLAU, 15, kursiv=True)
     s.punkt(ba, "BA", 200)
     s.punkt(be, "BE", 340)
     s.punkt(m, "M", 0, neu=True)
@@ -79,10 +60,10 @@ def kreissegment():
     halb = 60
     r = 150
     m = (180, 45)
-    ba, be = _auf(m, r, 90 + halb), _auf(m, r, 90 - halb)
-    bm = _auf(m, r, 90)
+    ba, be = auf(m, r, 90 + halb), auf(m, r, 90 - halb)
+    bm = auf(m, r, 90)
     sm = mitte(ba, be)
-    _kreisbogen(s, m, r, 90 - halb, 90 + halb, fuellung="#cfdcf5")
+    s.kreisbogen(m, r, 90 - halb, 90 + halb, fuellung="#cfdcf5")
     s.text((sm[0] + 62, sm[1] + 22), "Fläche", BLAU, 14)
     s.linie(m, ba, GRAU, 1.2)
     s.linie(m, be, GRAU, 1.2)
@@ -91,8 +72,8 @@ def kreissegment():
     s.linie(ba, be, SCHWARZ, 1.4)
     s.text((sm[0] + 55, sm[1] - 12), "S", SCHWARZ, 15, kursiv=True)
     _masslinie(s, sm, bm, "P", -11)
-    _kreisbogen(s, m, r, 90 - halb, 90 + halb, BLAU)
-    s.text(_auf(m, r + 14, 90 + halb - 15), "b", BLAU, 15, kursiv=True)
+    s.kreisbogen(m, r, 90 - halb, 90 + halb, BLAU, 2.2)
+    s.text(auf(m, r + 14, 90 + halb - 15), "b", BLAU, 15, kursiv=True)
     s.punkt(ba, "BA", 200)
     s.punkt(be, "BE", 340)
     s.punkt(m, "M", 0)

@@ -5,41 +5,23 @@ positives B laeuft in der Zeichnung im Uhrzeigersinn.
 """
 import math
 
-from skizzen import BLAU, GRAU, SCHWARZ, Skizze, mitte, versetzt
-
-
-def _auf(m, r, w):
-    """Punkt des Kreises um m mit Radius r in Richtung w (Grad)."""
-    return m[0] + r * math.cos(math.radians(w)), m[1] + r * math.sin(math.radians(w))
-
-
-def _bogenlinie(s, m, r, w1, w2, farbe=SCHWARZ, breite=2.0, strich=False, pfeil=False):
-    """Kreisbogen um m von w1 nach w2 (Grad); im Uhrzeigersinn, wenn w2 < w1."""
-    a, e = s._p(*_auf(m, r, w1)), s._p(*_auf(m, r, w2))
-    gross = 1 if abs(w2 - w1) > 180 else 0
-    # Im Bild zaehlt y nach unten: sweep 1 ist dort der Uhrzeigersinn.
-    sweep = 1 if w2 < w1 else 0
-    extra = ' stroke-dasharray="6,4"' if strich else ""
-    if pfeil:
-        extra += ' marker-end="url(#spitze%s)"' % ("B" if farbe == BLAU else "S")
-    s.teile.append('<path d="M %.1f %.1f A %.1f %.1f 0 %d %d %.1f %.1f" fill="none" stroke="%s" '
-                   'stroke-width="%.1f"%s/>' % (a[0], a[1], r, r, gross, sweep, e[0], e[1], farbe, breite, extra))
+from skizzen import BLAU, GRAU, SCHWARZ, Skizze, auf, mitte, versetzt
 
 
 def kreis_absteck_b():
     s = Skizze("kreis_absteck_b")
     m, r = (170, 100), 95
     w_ba, w_p, w_neg = 150, 60, 200
-    ba, p, q = _auf(m, r, w_ba), _auf(m, r, w_p), _auf(m, r, w_neg)
+    ba, p, q = auf(m, r, w_ba), auf(m, r, w_p), auf(m, r, w_neg)
     s.kreis(m, r, GRAU, strich=True)
     s.linie(m, ba, GRAU, 1.2)
     s.text(versetzt(m, ba, 11), "r", GRAU, 14, kursiv=True)
     s.linie(m, p, GRAU, 1.2, strich=True)
     # B > 0 im Uhrzeigersinn von BA aus, B < 0 dagegen.
-    _bogenlinie(s, m, r + 12, w_ba, w_p + 3, BLAU, 1.6, pfeil=True)
-    s.text(_auf(m, r + 32, (w_ba + w_p) / 2), "B &gt; 0", BLAU, 14, kursiv=True)
-    _bogenlinie(s, m, r + 12, w_ba, w_neg - 3, GRAU, 1.4, pfeil=True)
-    s.text(_auf(m, r + 34, (w_ba + w_neg) / 2 + 4), "B &lt; 0", GRAU, 13, kursiv=True)
+    s.kreisbogen(m, r + 12, w_ba, w_p + 3, BLAU, 1.6, pfeil=True)
+    s.text(auf(m, r + 32, (w_ba + w_p) / 2), "B &gt; 0", BLAU, 14, kursiv=True)
+    s.kreisbogen(m, r + 12, w_ba, w_neg - 3, GRAU, 1.4, pfeil=True)
+    s.text(auf(m, r + 34, (w_ba + w_neg) / 2 + 4), "B &lt; 0", GRAU, 13, kursiv=True)
     s.punkt(m, "M", 270)
     s.punkt(ba, "BA", 200)
     s.punkt(p, "P", 20, neu=True)
@@ -56,14 +38,14 @@ def kreis_absteck_xys():
     w_a = math.degrees(math.atan2(a[1] - m[1], a[0] - m[0]))
     w_e = math.degrees(math.atan2(e[1] - m[1], e[0] - m[0]))
     w_p = w_a - 30
-    p = _auf(m, r, w_p)
+    p = auf(m, r, w_p)
     fuss = (p[0], a[1])
-    _bogenlinie(s, m, r, w_a, w_e)
+    s.kreisbogen(m, r, w_a, w_e)
     s.linie(a, e, GRAU, 1.2)
     s.text((mitte(a, e)[0] + 60, a[1] - 13), "S", GRAU, 14, kursiv=True)
     # Die Bogenlaenge B laeuft von A aus am Bogen entlang bis P.
-    _bogenlinie(s, m, r + 12, w_a, w_p + 1.5, BLAU, 1.6, pfeil=True)
-    s.text(_auf(m, r + 27, (w_a + w_p) / 2), "B", BLAU, 15, kursiv=True)
+    s.kreisbogen(m, r + 12, w_a, w_p + 1.5, BLAU, 1.6, pfeil=True)
+    s.text(auf(m, r + 27, (w_a + w_p) / 2), "B", BLAU, 15, kursiv=True)
     s.linie(a, p, GRAU, 1.2, strich=True)
     s.text(versetzt(a, p, -11, 0.6), "s", GRAU, 14, kursiv=True)
     # x auf der Sehne, y senkrecht dazu

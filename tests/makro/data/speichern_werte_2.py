@@ -82,7 +82,7 @@ def ausrundung(p1, p2, p3, r):
     t = r * math.tan(drehung / 2)
     t1 = (p2[0] + u[0] / lu * t, p2[1] + u[1] / lu * t)
     t2 = (p2[0] + v[0] / lv * t, p2[1] + v[1] / lv * t)
-    return t, t1, t2
+    return t, t1, t2, (math.pi - drehung) / GON
 
 
 def polygonzug(pa, pe, schenkel):
@@ -119,9 +119,9 @@ zeige("B = 40", p1)
 zeige("B = -40", p2)
 frage(901, p1)
 
-print("Ausrundung: P1 900 (0, 0), P2 901 (80, 60), P3 von Hand (160, 160), R = 200")
-t, ta, tb = ausrundung((0.0, 0.0), (80.0, 60.0), (160.0, 160.0), 200)
-print("  Tangente %s" % std(t))
+print("Ausrundung: P1 900 (1000, 2000), P2 901 (1080, 2060), P3 von Hand (1160, 2160), R = 200")
+t, ta, tb, w = ausrundung((1000.0, 2000.0), (1080.0, 2060.0), (1160.0, 2160.0), 200)
+print("  Tangente %s, Winkel in P2 %s" % (std(t), std(w)))
 zeige("T1", ta)
 zeige("T2", tb)
 frage(902, ta)

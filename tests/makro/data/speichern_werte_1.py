@@ -106,11 +106,32 @@ for alpha, beta in ((50, 30), (40, 60)):
     print("  alpha %s beta %s" % (alpha, beta))
     zeige("Neupunkt", S)
 
-titel("rechnen_rueckwaertsschnitt_speichern: P1 900 (1000, 2000), P2 901 (1500, 2600), P3 von Hand (2100, 2100)")
-R1, R2, R3 = (1000, 2000), (1500, 2600), (2100, 2100)
-for S in ((1350, 1450), (1600, 1700)):
-    print("  S %s: rechtsdrehend %.9f %.9f" % (S, rechtsum(S, R1, R2) / GON, rechtsum(S, R2, R3) / GON))
-    zeige("Standpunkt", S)
+titel("rechnen_rueckwaertsschnitt_speichern: P1 900 (100, 200), P2 901 (150, 260), P3 von Hand (210, 210)")
+# Small distances: the program's angle sums with Pi = 3.141592654 move a
+# station by about distance times 1E-9, which must stay below the last
+# decimal of the overwrite question.
+R1, R2, R3 = (100, 200), (150, 260), (210, 210)
+
+
+def rueckwaerts(alpha, beta, s):
+    """The station that sees the typed angles, by Newton's method from s."""
+    def f(p):
+        return rechtsum(p, R1, R2) - alpha * GON, rechtsum(p, R2, R3) - beta * GON
+    for _ in range(50):
+        f0, h = f(s), 1e-4
+        fa, fb = f((s[0] + h, s[1])), f((s[0], s[1] + h))
+        j = [[(fa[0] - f0[0]) / h, (fb[0] - f0[0]) / h], [(fa[1] - f0[1]) / h, (fb[1] - f0[1]) / h]]
+        det = j[0][0] * j[1][1] - j[0][1] * j[1][0]
+        s = (s[0] - (j[1][1] * f0[0] - j[0][1] * f0[1]) / det, s[1] - (j[0][0] * f0[1] - j[1][0] * f0[0]) / det)
+    return s
+
+
+for S in ((135, 145), (160, 170)):
+    # The angles are typed with nine decimals; the station is found again
+    # from those rounded values.
+    alpha, beta = (round(rechtsum(S, p, q) / GON, 9) for p, q in ((R1, R2), (R2, R3)))
+    print("  S %s: rechtsdrehend %.9f %.9f" % (S, alpha, beta))
+    zeige("Standpunkt", rueckwaerts(alpha, beta, (S[0] + 3, S[1] - 2)))
 
 # ------------------------------------------------------------------ lines
 titel("rechnen_geradenschnitt_speichern: g1 900 (1000, 2000) - von Hand (1100, 2050), g2 durch 901 (1200, 1980) mit k")

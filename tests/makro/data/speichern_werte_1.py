@@ -139,13 +139,13 @@ u = sub(HAND, P900)
 for k in (-2, 1):
     zeige("k = %s" % k, schnitt(P900, u, (1200, 1980), (1, k)))
 
-titel("rechnen_rechtwinkelig_speichern: g1 900 (1000, 2000) - von Hand (1100, 2050), P 901 (1200, 1980)")
+titel("rechnen_3pkt_geradenschnitt_speichern: g1 900 (1000, 2000) - von Hand (1100, 2050), P 901 (1200, 1980)")
 P = (1200, 1980)
 zeige("Lotfusspunkt auf 900-Hand", schnitt(P900, u, P, (-u[1], u[0])))
 v = (1, -1)  # P1 und Steigung, k = -1
 zeige("Lotfusspunkt auf k = -1", schnitt(P900, v, P, (-v[1], v[0])))
 
-titel("rechnen_parallelen_speichern: g1 900 (1000, 2000) - von Hand (1100, 2050), g2 y = -x + d, P 901 (1200, 1980)")
+titel("rechnen_parallelen_schnitt_speichern: g1 900 (1000, 2000) - von Hand (1100, 2050), g2 y = -x + d, P 901 (1200, 1980)")
 for d in (3200, 3000):
     zeige("d = %s" % d, schnitt(P, u, (0, d), (1, -1)))
 

@@ -9,9 +9,6 @@ namespace {
 
 constexpr char kGerade[] =
     "P1, P2, und P3 liegen auf einer Geraden. Es kann daher kein Kreisbogen eingerechnet werden!";
-constexpr char kWarnung1[] =
-    "Achtung! Die Tangentenlänge ist größer als der Abstand zwischen Punkt P1 und Punkt P2. "
-    "Der Tangentenpunkt T1 liegt NICHT zwischen P1 und P2!";
 constexpr char kWarnung2[] =
     "Achtung! Die Tangentenlänge ist größer als der Abstand zwischen Punkt P2 und Punkt P3. "
     "Der Tangentenpunkt T2 liegt NICHT zwischen P2 und P3!";
@@ -47,27 +44,13 @@ struct AusrundungTest : ::testing::Test {
   static double zahl(RechenDialog& d, int i) { return MenueUmgebung::zahl(d.control("Erg", i)); }
 };
 
-TEST_F(AusrundungTest, TheMenuOpensItWithTheTangentGiven) {
-  RechenDialog& d = oeffnen();
-  EXPECT_EQ(d.caption(), "Ausrundung");
-  EXPECT_EQ(d.control("Punkt1").captionText(), "Punkt P1");
-  EXPECT_EQ(d.control("Punkt2").captionText(), "Punkt P2");
-  EXPECT_EQ(d.control("Punkt3").captionText(), "Punkt P3");
-  EXPECT_EQ(d.control("Label", 0).captionText(), "&T=");
-  EXPECT_EQ(d.control("OptionTangente").value(), 1);
-  EXPECT_EQ(d.control("ErgLabel", 0).captionText(), "Radius");
-  EXPECT_EQ(d.control("ErgLabel", 1).captionText(), "Tangente");
-  EXPECT_EQ(d.control("ErgLabel", 2).captionText(), "ω");
-  EXPECT_EQ(d.control("ErgLabel", 3).captionText(), "Bogen b");
-  EXPECT_EQ(d.control("ErgLabel", 4).captionText(), "ds");
-  EXPECT_EQ(d.control("Ergebnis", 0).captionText(), "Ergebnis 1.Tangentenpunkt");
-  EXPECT_EQ(d.control("Ergebnis", 1).captionText(), "Ergebnis 2.Tangentenpunkt");
-  EXPECT_EQ(d.control("LabelA", 0).captionText(), "X1 =");
-  EXPECT_EQ(d.control("LabelB", 1).captionText(), "Y2 =");
-}
-
 TEST_F(AusrundungTest, EachOptionNamesTheField) {
   RechenDialog& d = oeffnen();
+  const std::vector<std::string> namen = {"Radius", "Tangente", "ω", "Bogen b", "ds"};
+  for (size_t i = 0; i < namen.size(); ++i)
+    EXPECT_EQ(d.control("ErgLabel", static_cast<int>(i)).captionText(), namen[i]);
+  EXPECT_EQ(d.control("Ergebnis", 0).captionText(), "Ergebnis 1.Tangentenpunkt");
+  EXPECT_EQ(d.control("Ergebnis", 1).captionText(), "Ergebnis 2.Tangentenpunkt");
   const std::pair<const char*, const char*> faelle[] = {{"OptionRadius", "&R="},
                                                         {"OptionSehne", "&S="},
                                                         {"OptionBogen", "&b="},
@@ -79,28 +62,7 @@ TEST_F(AusrundungTest, EachOptionNamesTheField) {
     EXPECT_EQ(d.control(option).value(), 1);
   }
   EXPECT_EQ(d.control("OptionRadius").value(), 0) << "one option at a time";
-  EXPECT_EQ(d.control("OptionRadius").captionText(), "&Radius");
-  EXPECT_EQ(d.control("OptionTangente").captionText(), "&Tangentenlänge");
-  EXPECT_EQ(d.control("OptionSehne").captionText(), "S&ehne");
-  EXPECT_EQ(d.control("OptionBogen").captionText(), "B&ogenlänge");
   EXPECT_EQ(d.control("optionDS").captionText(), "&ds (Gegenstich)");
-}
-
-TEST_F(AusrundungTest, FromTheTangentLengthInGon) {
-  stumpf();
-  RechenDialog& d = rechnen("OptionTangente", "20");
-  EXPECT_TRUE(u.meldungen().empty());
-  EXPECT_EQ(erg(d, 0), "60.000");
-  EXPECT_EQ(erg(d, 1), "20.000");
-  EXPECT_EQ(erg(d, 2), "159.033447") << "the interior angle at P2, not the turn";
-  EXPECT_EQ(erg(d, 3), "38.610");
-  EXPECT_EQ(erg(d, 4), "3.246");
-  EXPECT_EQ(d.control("ErgA", 0).captionText(), "80.000");
-  EXPECT_NEAR(d.Ergebnis(0).B, 0, 1e-6);
-  EXPECT_EQ(d.control("ErgA", 1).captionText(), "116.000");
-  EXPECT_EQ(d.control("ErgB", 1).captionText(), "12.000");
-  EXPECT_EQ(d.control("PktNr", 0).text(), "4");
-  EXPECT_EQ(d.control("PktNr", 1).text(), "4");
 }
 
 TEST_F(AusrundungTest, FromRadiusChordAndArc) {
@@ -160,25 +122,17 @@ TEST_F(AusrundungTest, ASharpCorner) {
   EXPECT_NEAR(d.Ergebnis(1).B, 40.000000021, 1e-6);
 }
 
-TEST_F(AusrundungTest, ATangentLongerThanTheSidesWarnsTwiceAndStillGivesThePoints) {
-  stumpf();
-  RechenDialog& d = rechnen("OptionTangente", "150");
-  ASSERT_EQ(u.meldungen().size(), 2u);
-  EXPECT_EQ(u.meldungen()[0].message.text, kWarnung1);
-  EXPECT_EQ(u.meldungen()[0].message.title, "Ausrundung");
+// Both sides too short is the rechnen_ausrundung macro's case; here only
+// the second: P3 close to P2.
+TEST_F(AusrundungTest, ATangentLongerThanTheSecondSideWarnsOnceAndStillGivesThePoints) {
+  u.punkt(1, 0, 0);
+  u.punkt(2, 100, 0);
+  u.punkt(3, 108, 6);
+  RechenDialog& d = rechnen("OptionTangente", "20");
+  ASSERT_EQ(u.meldungen().size(), 1u);
+  EXPECT_EQ(u.meldungen()[0].message.text, kWarnung2);
   EXPECT_EQ(u.meldungen()[0].message.icon, forms::Icon::Exclamation);
-  EXPECT_EQ(u.meldungen()[1].message.text, kWarnung2);
-  EXPECT_EQ(erg(d, 0), "450.000");
-  EXPECT_EQ(d.control("ErgA", 0).captionText(), "-50.000");
-  EXPECT_EQ(d.control("ErgA", 1).captionText(), "220.000");
-  EXPECT_EQ(d.control("ErgB", 1).captionText(), "90.000");
-
-  // Only the second side too short: P3 close to P2.
-  neuHolen(d, 3, 108, 6);
-  d.control("Param", 0).setText("20");
-  d.control("Berechnen").click();
-  ASSERT_EQ(u.meldungen().size(), 3u);
-  EXPECT_EQ(u.meldungen()[2].message.text, kWarnung2);
+  EXPECT_EQ(d.control("ErgA", 0).captionText(), "80.000");
 }
 
 TEST_F(AusrundungTest, ThreePointsOnALineAreRefusedInOrderOrDoubledBack) {
@@ -188,8 +142,6 @@ TEST_F(AusrundungTest, ThreePointsOnALineAreRefusedInOrderOrDoubledBack) {
   RechenDialog& d = rechnen("OptionRadius", "60");
   ASSERT_EQ(u.meldungen().size(), 1u);
   EXPECT_EQ(u.meldungen()[0].message.text, kGerade);
-  EXPECT_EQ(u.meldungen()[0].message.title, "Ausrundung");
-  EXPECT_EQ(u.meldungen()[0].message.icon, forms::Icon::Exclamation);
   EXPECT_EQ(erg(d, 0), "");
   EXPECT_EQ(d.control("ErgA", 0).captionText(), "");
   EXPECT_EQ(d.control("PktNr", 0).text(), "");
@@ -223,26 +175,14 @@ TEST_F(AusrundungTest, BothTangentPointsAreStoredWithTheHeightsOfP1AndP2) {
   EXPECT_EQ(u.zustand.Punkte[1].A, 0) << "the input points are untouched";
 }
 
-TEST_F(AusrundungTest, UnderM31TheCaptionsChangeAndTheValuesNot) {
-  u.zustand.M31 = core::Wahr;
-  stumpf();
-  RechenDialog& d = rechnen("OptionTangente", "20");
-  EXPECT_EQ(d.control("LabelA", 0).captionText(), "Y1 =");
-  EXPECT_EQ(d.control("LabelB", 0).captionText(), "X1 =");
-  EXPECT_EQ(d.control("LabelA", 1).captionText(), "Y2 =");
-  EXPECT_NEAR(d.Ergebnis(1).A, 116, 1e-6);
-  EXPECT_NEAR(d.Ergebnis(1).B, 12, 1e-6);
-  EXPECT_EQ(erg(d, 2), "159.033447");
-}
-
-TEST_F(AusrundungTest, APolarTableInGonAndDegreesGetsPolarTangentPointsAndItsRecordsBack) {
+TEST_F(AusrundungTest, APolarTableInDegreesGetsPolarTangentPointsAndItsRecordsBack) {
   struct Fall {
     double faktor;
     const char* omega;
     double phiT1, phiT2, phiP1, phiP3;
   };
-  for (const Fall& f : {Fall{kPi / 200, "114.805035", 47.867004407, 35.916808590, 62.566591630, 15.595826073},
-                        Fall{kPi / 180, "103.324531", 43.080303966, 32.325127731, 56.309932467, 14.036243466}}) {
+  // Gon is the rechnen_ausrundung macro's case.
+  for (const Fall& f : {Fall{kPi / 180, "103.324531", 43.080303966, 32.325127731, 56.309932467, 14.036243466}}) {
     MenueUmgebung v;
     v.zustand.Polar = core::Wahr;
     v.zustand.WinkelFaktor = f.faktor;

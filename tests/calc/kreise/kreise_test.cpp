@@ -1,0 +1,259 @@
+// The circle dialogs: two circles, line and circle, tangents from a point,
+// the circle through three points. Worked values from data/werte.py; the
+// line through the centre of circle (10, 10) r 5 with direction (0.6, 0.8)
+// meets it at (13, 14) ahead and (7, 6) behind; circle (50, 50) r 13 and
+// the line b = 45 are 5 apart, so the points lie 12 either side of (50, 45).
+// Captions, storing, typed points, M31, a polar table and the messages with
+// their titles are covered end to end by the rechnen_kreis*, rechnen_umkreis
+// and rechnen_kreise_* macros.
+#include <array>
+#include <functional>
+#include <map>
+
+#include "calc/frame/menue_umgebung.h"
+
+namespace kolm::calc::testing {
+namespace {
+
+struct Dialog {
+  const char *menue, *form;
+};
+constexpr Dialog kKreisKreis{"MnuKreisKreisKreis", "KreisKreis"};
+constexpr Dialog kGeradeKreis{"MnuKreisKreisGerade", "GeradeKreis"};
+constexpr Dialog kTangenten{"MnuKreisTangenten", "KreisTangenten"};
+constexpr Dialog kUmkreis{"MnuKreisUmkreis", "UmkreisMittelpunkt"};
+
+struct Fall {
+  const char* name;
+  Dialog dialog;
+  std::vector<std::array<double, 3>> punkte;  // points 1, 2, ... with heights
+  std::function<void(RechenDialog&)> eingeben;
+  std::vector<double> ergebnis;  // a, b of each result point
+};
+
+void nummern(RechenDialog& d, std::initializer_list<const char*> felder) {
+  int n = 1;
+  for (const char* feld : felder) d.control(feld).setText(std::to_string(n++));
+}
+
+TEST(Kreise, EachDialogGivesItsWorkedPointsInItsOrderWithoutTheHeights) {
+  const Fall faelle[] = {
+      // The larger circle second: still the point left of it first.
+      {"two circles, swapped", kKreisKreis, {{140, 230, 7}, {100, 200, 9}},
+       [](RechenDialog& d) {
+         nummern(d, {"PP1Nr", "PP2Nr"});
+         d.control("Param", 0).setText("25");
+         d.control("Param", 1).setText("30");
+       },
+       {115.360592131, 225.769210492, 129.039407869, 207.530789508}},
+      {"touching circles", kKreisKreis, {{0, 0, 0}, {10, 0, 0}},
+       [](RechenDialog& d) {
+         nummern(d, {"PP1Nr", "PP2Nr"});
+         d.control("Param", 0).setText("6");
+         d.control("Param", 1).setText("4");
+       },
+       {6, 0, 6, 0}},
+      {"line through the centre", kGeradeKreis, {{10, 10, 3}, {4, 2, 4}, {16, 18, 5}},
+       [](RechenDialog& d) {
+         nummern(d, {"PP1Nr", "G1P1Nr", "G1P2Nr"});
+         d.control("Param", 0).setText("5");
+       },
+       {13, 14, 7, 6}},
+      {"tangents", kTangenten, {{10, 20, 3}, {40, 60, 4}},
+       [](RechenDialog& d) {
+         nummern(d, {"PP1Nr", "PP2Nr"});
+         d.control("Param", 0).setText("5");
+       },
+       {14.279949748, 17.415037689, 6.320050252, 23.384962311}},
+      {"circumcircle", kUmkreis, {{2, 1, 1}, {9, 4, 1}, {3, 8, 1}},
+       [](RechenDialog& d) { nummern(d, {"PP1Nr", "PP2Nr", "PP3Nr"}); }, {4.782608696, 4.173913043}},
+  };
+  for (const Fall& f : faelle) {
+    SCOPED_TRACE(f.name);
+    MenueUmgebung u;
+    for (size_t i = 0; i < f.punkte.size(); ++i)
+      u.punkt(static_cast<int>(i) + 1, f.punkte[i][0], f.punkte[i][1], f.punkte[i][2]);
+    RechenDialog& d = u.oeffnen(f.dialog.menue, f.dialog.form);
+    f.eingeben(d);
+    d.control("Berechnen").click();
+    EXPECT_TRUE(u.meldungen().empty());
+    for (size_t i = 0; i < f.ergebnis.size() / 2; ++i) {
+      const int n = f.ergebnis.size() == 2 ? -1 : static_cast<int>(i);
+      const core::Punkt& p = n < 0 ? d.Ergebnis() : d.Ergebnis(n);
+      EXPECT_NEAR(p.A, f.ergebnis[2 * i], 1e-6) << i;
+      EXPECT_NEAR(p.B, f.ergebnis[2 * i + 1], 1e-6) << i;
+      EXPECT_EQ(p.C, 0) << "heights are not taken over";
+    }
+  }
+}
+
+TEST(Kreise, TheLengthsBesideThePointsAreShown) {
+  MenueUmgebung u;
+  u.punkt(1, 10, 20);
+  u.punkt(2, 40, 60);
+  RechenDialog& t = u.oeffnen(kTangenten.menue, kTangenten.form);
+  EXPECT_EQ(t.control("FrameErgebnis").captionText(), "Tangentenlänge");
+  nummern(t, {"PP1Nr", "PP2Nr"});
+  t.control("Param", 0).setText("5");
+  t.control("Berechnen").click();
+  EXPECT_EQ(t.control("Erg", 0).captionText(), "49.749372");
+  // A right angle at P1: the centre halves the hypotenuse of 10.
+  u.punkt(1, 0, 0);
+  u.punkt(2, 8, 0);
+  u.punkt(3, 0, 6);
+  RechenDialog& k = u.oeffnen(kUmkreis.menue, kUmkreis.form);
+  EXPECT_EQ(k.control("ErgLabel", 0).captionText(), "Radius");
+  nummern(k, {"PP1Nr", "PP2Nr", "PP3Nr"});
+  k.control("Berechnen").click();
+  EXPECT_NEAR(k.Ergebnis().A, 4, 1e-9);
+  EXPECT_NEAR(k.Ergebnis().B, 3, 1e-9);
+  EXPECT_EQ(k.control("Erg", 0).captionText(), "5.000");
+}
+
+TEST(Kreise, NoSolutionSaysSoAndKeepsOrClearsTheResults) {
+  const Fall faelle[] = {
+      {"one circle inside the other", kKreisKreis, {{0, 0, 0}, {1, 0, 0}},
+       [](RechenDialog& d) {
+         nummern(d, {"PP1Nr", "PP2Nr"});
+         d.control("Param", 0).setText("10");
+         d.control("Param", 1).setText("2");
+       }},
+      {"line 5 from a circle of 4.9", kGeradeKreis, {{50, 50, 0}, {30, 45, 0}},
+       [](RechenDialog& d) {
+         d.control("PP1Nr").setText("1");
+         d.control("Param", 0).setText("4.9");
+         d.control("ComboGerade1").setListIndex(7);
+         d.control("G1P1Nr").setText("2");
+       }},
+      {"line with the ratio 0 to 0", kGeradeKreis, {{50, 50, 0}, {30, 45, 0}},
+       [](RechenDialog& d) {
+         d.control("PP1Nr").setText("1");
+         d.control("Param", 0).setText("13");
+         d.control("ComboGerade1").setListIndex(1);
+         d.control("G1P1Nr").setText("2");
+         d.control("TextG1_1").setText("0");
+         d.control("TextG1_2").setText("0");
+       }},
+      {"point on the circle", kTangenten, {{10, 20, 0}, {13, 24, 0}},
+       [](RechenDialog& d) {
+         nummern(d, {"PP1Nr", "PP2Nr"});
+         d.control("Param", 0).setText("5");
+       }},
+      {"point inside the circle", kTangenten, {{10, 20, 0}, {11, 21, 0}},
+       [](RechenDialog& d) {
+         nummern(d, {"PP1Nr", "PP2Nr"});
+         d.control("Param", 0).setText("5");
+       }},
+      {"collinear points", kUmkreis, {{0, 0, 0}, {1, 1, 0}, {3, 3, 0}},
+       [](RechenDialog& d) { nummern(d, {"PP1Nr", "PP2Nr", "PP3Nr"}); }},
+  };
+  const std::map<std::string, std::string> texte = {{kKreisKreis.form, "Kein Kreisschnitt vorhanden!"},
+                                                    {kGeradeKreis.form, "Kein Kreis-Geradenschnitt vorhanden!"},
+                                                    {kTangenten.form, "Keine Tangenten vorhanden!"},
+                                                    {kUmkreis.form, "Kein Kreis vorhanden!"}};
+  for (const Fall& f : faelle) {
+    SCOPED_TRACE(f.name);
+    MenueUmgebung u;
+    for (size_t i = 0; i < f.punkte.size(); ++i)
+      u.punkt(static_cast<int>(i) + 1, f.punkte[i][0], f.punkte[i][1], f.punkte[i][2]);
+    RechenDialog& d = u.oeffnen(f.dialog.menue, f.dialog.form);
+    f.eingeben(d);
+    d.control("Berechnen").click();
+    ASSERT_EQ(u.meldungen().size(), 1u);
+    EXPECT_EQ(u.meldungen()[0].message.text, texte.at(f.dialog.form));
+    EXPECT_EQ(u.meldungen()[0].message.icon, forms::Icon::Exclamation);
+    const int erster = std::string(f.dialog.form) == kUmkreis.form ? -1 : 0;
+    EXPECT_EQ(d.control("ErgA", erster).captionText(), "");
+  }
+}
+
+TEST(Kreise, WithoutTangentsTheResultRecordsAreCleared) {
+  MenueUmgebung u;
+  u.punkt(1, 10, 20);
+  u.punkt(2, 40, 60);
+  u.punkt(3, 13, 24);
+  RechenDialog& d = u.oeffnen(kTangenten.menue, kTangenten.form);
+  nummern(d, {"PP1Nr", "PP2Nr"});
+  d.control("Param", 0).setText("5");
+  d.control("Berechnen").click();
+  d.control("PP2Nr").setText("3");
+  d.control("Berechnen").click();
+  ASSERT_EQ(u.meldungen().size(), 1u);
+  for (int i : {0, 1}) {
+    EXPECT_EQ(d.Ergebnis(i).A, 0);
+    EXPECT_EQ(d.Ergebnis(i).B, 0);
+  }
+}
+
+// ---- the nine ways of giving the line
+
+struct GeradeKreisTest : ::testing::Test {
+  MenueUmgebung u;
+  RechenDialog& d = u.oeffnen(kGeradeKreis.menue, kGeradeKreis.form);
+};
+
+TEST_F(GeradeKreisTest, TheEntriesShowTheirFieldsAndCaptions) {
+  EXPECT_EQ(d.control("ComboGerade1").listCount(), 9);
+  EXPECT_TRUE(d.control("G1P2Nr").visible());
+  EXPECT_FALSE(d.control("TextG1_1").visible());
+  d.control("ComboGerade1").setListIndex(1);
+  EXPECT_FALSE(d.control("G1P2Nr").visible());
+  EXPECT_EQ(d.control("LabelG1_1").captionText(), "Steigungs&verhältnis:");
+  EXPECT_EQ(d.control("LabelG1_2").captionText(), "zu");
+  d.control("ComboGerade1").setListIndex(2);
+  EXPECT_TRUE(d.control("TextG1_1").visible());
+  EXPECT_FALSE(d.control("TextG1_2").visible());
+  d.control("ComboGerade1").setListIndex(8);
+  EXPECT_FALSE(d.control("G1P1Nr").visible());
+  EXPECT_EQ(d.control("LabelG1_1").captionText(), "Steigungsfaktor &k =");
+  EXPECT_EQ(d.control("LabelG1_2").captionText(), "&d =");
+}
+
+TEST_F(GeradeKreisTest, TheWaysOfGivingTheLineMeetTheSamePoints) {
+  struct Weg {
+    int eintrag;
+    const char *t1, *t2;
+    double a1;  // first point's a: 62 ahead along +a, 38 along -a (to Pi's ten digits)
+  };
+  // Entry 8 overwrites the first point's record, so it comes last.
+  for (const Weg f : {Weg{1, "0", "1", 62}, Weg{2, "0", "", 62}, Weg{3, "0", "", 62}, Weg{4, "0", "", 62},
+                      Weg{5, "-2", "0", 38}, Weg{7, "", "", 62}, Weg{8, "0", "45", 62}}) {
+    SCOPED_TRACE(f.eintrag);
+    u.punkt(1, 50, 50);
+    u.punkt(2, 30, 45);
+    d.control("PP1Nr").setText("");
+    d.control("PP1Nr").setText("1");
+    d.control("Param", 0).setText("13");
+    d.control("ComboGerade1").setListIndex(f.eintrag);
+    d.control("G1P1Nr").setText("");
+    d.control("G1P1Nr").setText("2");
+    d.control("TextG1_1").setText(f.t1);
+    d.control("TextG1_2").setText(f.t2);
+    d.control("Berechnen").click();
+    EXPECT_TRUE(u.meldungen().empty());
+    EXPECT_NEAR(d.Ergebnis(0).A, f.a1, 1e-6);
+    EXPECT_NEAR(d.Ergebnis(0).B, 45, 1e-6);
+    EXPECT_NEAR(d.Ergebnis(1).A, 100 - f.a1, 1e-6);
+  }
+}
+
+TEST_F(GeradeKreisTest, APolarTableSendsTheLineBackButKeepsTheCentreRectangular) {
+  u.zustand.Polar = core::Wahr;
+  u.polarPunkt(1, 10, 10);
+  u.polarPunkt(2, 4, 2);
+  u.polarPunkt(3, 16, 18);
+  nummern(d, {"PP1Nr", "G1P1Nr", "G1P2Nr"});
+  d.control("Param", 0).setText("5");
+  d.control("Berechnen").click();
+  EXPECT_NEAR(d.Ergebnis(0).A, std::hypot(13.0, 14.0), 1e-7);
+  EXPECT_NEAR(d.Ergebnis(0).B, std::atan2(14.0, 13.0) * 200 / kPi, 1e-6);
+  EXPECT_NEAR(d.Ergebnis(1).A, std::hypot(7.0, 6.0), 1e-7);
+  EXPECT_NEAR(d.Eingabe(1).A, u.zustand.Punkte[2].A, 1e-9);
+  EXPECT_NEAR(d.Eingabe(1).B, u.zustand.Punkte[2].B, 1e-7);
+  EXPECT_NEAR(d.Eingabe(2).B, u.zustand.Punkte[3].B, 1e-7);
+  EXPECT_NEAR(d.Eingabe(0).A, 10, 1e-9) << "the centre stays rectangular";
+  EXPECT_NEAR(d.Eingabe(0).B, 10, 1e-9);
+}
+
+}  // namespace
+}  // namespace kolm::calc::testing

@@ -54,15 +54,6 @@ TEST_F(AbsteckLaufTest, TheRunFillsTheTargetsAndKeepsTheirOtherFields) {
   for (const char* leer : {"PP2", "ErgA", "ErgB"}) EXPECT_EQ(d.control(leer).captionText(), "") << leer;
 }
 
-TEST_F(AbsteckLaufTest, UnderM31TheDirectionsRunClockwiseFromX) {
-  u.zustand.M31 = core::Wahr;
-  quellen();
-  u.lauf("10", "20", "5", "30");
-  erwarte(30, 50, 40.966552934);
-  erwarte(31, 130, 374.866816728);
-  erwarte(34, 250, 140.966552921);
-}
-
 TEST_F(AbsteckLaufTest, EachCheckInItsOrderNamesTheFieldToCorrect) {
   const std::string anzahl = "Die Anzahl der zu berechnenden Punkt muß mindestens eins betragen.";
   const std::string p = "Die Punktnummer des Punktes P muß zwischen 0 und 999 liegen. Der Punkt darf also nicht "

@@ -8,6 +8,7 @@
 #include "core/main/main_form.h"
 #include "core/tables/tabellen_dateien.h"
 #include "forms/scripted.h"
+#include "support/test_ordner.h"
 
 namespace kolm::core {
 namespace {
@@ -35,7 +36,8 @@ struct Umgebung {
   forms::Forms forms{dienste.services};
   Zustand zustand;
   Anwendung anwendung{zustand, forms};
-  fs::path ordner;
+  kolm::testhilfen::TestOrdner tmp{"anw"};
+  const fs::path& ordner = tmp.pfad;
 
   Umgebung() {
     forms.setHost(&host);
@@ -43,12 +45,8 @@ struct Umgebung {
       forms.registerForm(name, [name](forms::Forms& f) { return std::make_unique<Zaehler>(f, name); });
     RegisterMainForms(forms, "/nicht/da");
     anwendung.setMain(static_cast<MainForm*>(forms.load("Main")));
-    ordner = fs::temp_directory_path() / ("kolm-anw-" + std::to_string(::getpid()) + "-" +
-                                          std::to_string(reinterpret_cast<uintptr_t>(this)));
-    fs::create_directories(ordner);
     zustand.ProjektVerzeichnis = ordner.string() + "/";
   }
-  ~Umgebung() { fs::remove_all(ordner); }
 
   Zaehler& dialog(const char* name) { return static_cast<Zaehler&>(*forms.load(name)); }
 

@@ -11,6 +11,7 @@
 #include "core/profile/profile.h"
 #include "core/tables/tabellen_dateien.h"
 #include "forms/scripted.h"
+#include "support/test_ordner.h"
 
 namespace kolm::core {
 namespace {
@@ -18,7 +19,8 @@ namespace {
 namespace fs = std::filesystem;
 
 struct Programm {
-  fs::path wurzel;
+  kolm::testhilfen::TestOrdner tmp{"projekt"};
+  const fs::path& wurzel = tmp.pfad;
   forms::ScriptedServices dienste;
   forms::Forms forms{dienste.services};
   Zustand zustand;
@@ -26,8 +28,6 @@ struct Programm {
   std::vector<std::string> lvGeprueft;
 
   Programm() {
-    wurzel = fs::temp_directory_path() / ("kolm-projekt-" + std::to_string(::getpid()) + "-" +
-                                          std::to_string(reinterpret_cast<uintptr_t>(this)));
     fs::create_directories(wurzel / "prog" / "Demo Projekt");
     ::setenv("KOLM_INI", (wurzel / "Kolm.ini").c_str(), 1);
     zustand.ProgrammIni = (wurzel / "Kolm.ini").string();
@@ -38,10 +38,7 @@ struct Programm {
       lvGeprueft.push_back(dir + (anlegen ? " anlegen" : ""));
     };
   }
-  ~Programm() {
-    ::unsetenv("KOLM_INI");
-    fs::remove_all(wurzel);
-  }
+  ~Programm() { ::unsetenv("KOLM_INI"); }
   std::string titel() { return anwendung.main()->caption(); }
 
   // A project folder with one table "Achse 1" holding point 5.

@@ -15,13 +15,6 @@ void DateienAnlegen(const Ordner& o, const std::string& stamm) {
   for (const std::string& e : kEndungen) o.schreiben(stamm + e, "x");
 }
 
-TEST(TabelleLoeschen, TheQuestionComesFirst) {
-  const forms::Message m = TabelleLoeschenFrage();
-  EXPECT_EQ(m.text, "Mit der Tabelle werden auch alle zugehörigen Aufzeichnungen gelöscht.");
-  EXPECT_EQ(m.title, "Tabelle löschen");
-  EXPECT_EQ(m.buttons, forms::Buttons::OKCancel);
-}
-
 TEST(TabelleLoeschen, RemovesConnectionsArcsCalculationsAndPointsAndKeepsTheRest) {
   Umgebung u;
   u.z().Polar = Wahr;

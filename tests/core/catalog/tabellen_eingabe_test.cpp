@@ -128,8 +128,7 @@ TEST_F(Pruefen, ANameInUseIsRefusedBeforeAnythingElseOfThatRow) {
   ASSERT_EQ(p.befunde.size(), 1u);
   EXPECT_EQ(p.befunde[0].art, Art::NameVergeben);
   EXPECT_EQ(p.befunde[0].zeile, 2);
-  EXPECT_EQ(p.befunde[0].meldung.text, "Profil 2 existiert bereits! Wählen Sie bitte einen anderen Namen.");
-  EXPECT_EQ(p.befunde[0].meldung.buttons, forms::Buttons::OK);
+  EXPECT_EQ(p.befunde[0].meldung.buttons, forms::Buttons::OK);  // its text: the dialog's tests
   const TabellenEntscheidung e = Abarbeiten(p);
   EXPECT_FALSE(e.weiter);
   EXPECT_EQ(Gezeigt().size(), 1u);
@@ -143,31 +142,21 @@ TEST_F(Pruefen, AStemInUseIsRefusedWithTheStemAsItWouldBeStored) {
       TabellenEingabePruefen(u.z(), Eingabe("Neu", "ABCDEFGHIJ", "N"), TabellenDialog::Duplizieren);
   ASSERT_EQ(p.befunde.size(), 1u);
   EXPECT_EQ(p.befunde[0].art, Art::DateinameVergeben);
-  EXPECT_EQ(p.befunde[0].meldung.text,
-            "Der Dateiname ABCDEFGH wird bereits von der Tabelle 'Lang' verwendet! Wählen Sie bitte einen "
-            "anderen Namen.");
+  EXPECT_NE(p.befunde[0].meldung.text.find("Der Dateiname ABCDEFGH "), std::string::npos);
   EXPECT_FALSE(Abarbeiten(p).weiter);
 }
 
-TEST_F(Pruefen, ASharedPointFileAsksAndOkSharesIt) {
+TEST_F(Pruefen, ASharedPointFileAsksAndOkSharesItCancelKeepsTheDialog) {
   const TabellenPruefung p =
       TabellenEingabePruefen(u.z(), Eingabe("Profil 1a", "P1A", "P1", "1,5"), TabellenDialog::Neu, -1, ",");
   ASSERT_EQ(p.befunde.size(), 1u);
-  EXPECT_EQ(p.befunde[0].art, Art::PunkteGemeinsam);
-  EXPECT_EQ(p.befunde[0].meldung.text,
-            "Der Punkt-Dateiname P1 wird auch von der Tabelle 'Profil 1' verwendet!\nWenn Sie OK wählen, dann "
-            "werden die Punkte von beiden Tabellen verwendet. Dies entspricht im Tiefbau einem Doppelprofil.");
-  EXPECT_EQ(p.befunde[0].meldung.buttons, forms::Buttons::OKCancel);
+  EXPECT_EQ(p.befunde[0].art, Art::PunkteGemeinsam);  // its text and buttons: the dialog's tests
   antworten.queue(forms::Answer::OK);
   const TabellenEntscheidung e = Abarbeiten(p);
   EXPECT_TRUE(e.weiter);
   EXPECT_TRUE(e.punkteGemeinsam);
   EXPECT_EQ(e.stationierung, 1.5);
   EXPECT_EQ(Gezeigt().size(), 1u) << "equal stationing: no question";
-}
-
-TEST_F(Pruefen, CancelOnTheSharedPointFileKeepsTheDialog) {
-  const TabellenPruefung p = TabellenEingabePruefen(u.z(), Eingabe("Neu", "N", "P1"), TabellenDialog::Neu);
   antworten.queue(forms::Answer::Cancel);
   EXPECT_FALSE(Abarbeiten(p).weiter);
 }
@@ -239,9 +228,7 @@ TEST_F(Pruefen, The502ndTableIsRefused) {
   const TabellenPruefung p = TabellenEingabePruefen(u.z(), Eingabe("Neu", "N", "T7"), TabellenDialog::Neu);
   EXPECT_EQ(p.zeile, -1);
   ASSERT_EQ(p.befunde.size(), 2u);
-  EXPECT_EQ(p.befunde[1].art, Art::KeinPlatz);
-  EXPECT_EQ(p.befunde[1].meldung.text, "Es ist leider keine Platz mehr für eine neue Tabelle vorhanden!");
-  EXPECT_EQ(p.befunde[1].meldung.title, "Kolm roars...");
+  EXPECT_EQ(p.befunde[1].art, Art::KeinPlatz);  // its message: NeueTabelle.The502ndTableIsRefused
   antworten.queue(forms::Answer::OK);
   EXPECT_FALSE(Abarbeiten(p).weiter);
   EXPECT_EQ(Gezeigt().size(), 2u);

@@ -20,13 +20,15 @@
 #include "core/tables/tabellen_dateien.h"
 #include "forms/keys.h"
 #include "forms/scripted.h"
+#include "support/test_ordner.h"
 
 namespace kolm::core::projekt_test {
 
 namespace fs = std::filesystem;
 
 struct ProjektUmgebung {
-  fs::path wurzel;
+  kolm::testhilfen::TestOrdner tmp{"projdlg"};
+  const fs::path& wurzel = tmp.pfad;
   forms::ScriptedServices dienste;
   forms::HeadlessHost host;
   forms::Forms forms{dienste.services};
@@ -43,8 +45,6 @@ struct ProjektUmgebung {
   }();
 
   ProjektUmgebung() {
-    wurzel = fs::temp_directory_path() / ("kolm-projdlg-" + std::to_string(::getpid()) + "-" +
-                                          std::to_string(reinterpret_cast<std::uintptr_t>(this)));
     fs::create_directories(wurzel / "prog" / "Demo Projekt");
     ::setenv("KOLM_INI", (wurzel / "Kolm.ini").c_str(), 1);
     zustand.ProgrammIni = (wurzel / "Kolm.ini").string();
@@ -66,7 +66,6 @@ struct ProjektUmgebung {
     std::error_code ec;
     fs::current_path(vorherigerOrdner, ec);
     ::unsetenv("KOLM_INI");
-    fs::remove_all(wurzel, ec);
   }
 
   std::string ordner(const std::string& name) const { return (wurzel / name).string() + "/"; }

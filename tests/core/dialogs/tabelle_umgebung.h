@@ -17,6 +17,7 @@
 #include "core/tables/tabellen_dateien.h"
 #include "forms/keys.h"
 #include "forms/scripted.h"
+#include "support/test_ordner.h"
 
 namespace kolm::core::testing {
 
@@ -58,7 +59,8 @@ struct TabellenUmgebung {
   forms::Forms forms{dienste.services};
   Zustand zustand;
   Anwendung anwendung{zustand, forms};
-  fs::path ordner;
+  kolm::testhilfen::TestOrdner tmp{"tab"};
+  const fs::path& ordner = tmp.pfad;
 
   TabellenUmgebung() {
     forms.setHost(&host);
@@ -68,15 +70,9 @@ struct TabellenUmgebung {
     KernFormulareRegistrieren(forms, anwendung);
     anwendung.setMain(static_cast<MainForm*>(forms.load("Main")));
     KernBefehleVerbinden(*anwendung.main(), anwendung);
-    ordner = fs::temp_directory_path() / ("kolm-tab-" + std::to_string(::getpid()) + "-" +
-                                          std::to_string(reinterpret_cast<uintptr_t>(this)));
-    fs::create_directories(ordner);
     zustand.ProjektVerzeichnis = ordner.string() + "/";
   }
-  ~TabellenUmgebung() {
-    forms.unloadAll();
-    fs::remove_all(ordner);
-  }
+  ~TabellenUmgebung() { forms.unloadAll(); }
 
   MainForm& main() { return *anwendung.main(); }
   void menue(const char* eintrag) { main().control(eintrag).click(); }

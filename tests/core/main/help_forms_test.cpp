@@ -13,6 +13,7 @@
 #include "core/main/main_form.h"
 #include "forms/scripted.h"
 #include "forms/utf8.h"
+#include "support/test_ordner.h"
 
 namespace kolm::core {
 namespace {
@@ -30,17 +31,14 @@ std::string ReadAll(const fs::path& path) {
 }
 
 struct HelpFixture : ::testing::Test {
-  fs::path dir;
+  kolm::testhilfen::TestOrdner tmp{"hilfe"};
+  const fs::path& dir = tmp.pfad;
   forms::ScriptedServices scripted;
   forms::HeadlessHost host;
   forms::Forms forms{scripted.services};
   FormHelp help{forms};
 
   void SetUp() override {
-    dir = fs::temp_directory_path() /
-          ("kolm_hilfe_" + std::to_string(::getpid()) + "_" +
-           ::testing::UnitTest::GetInstance()->current_test_info()->name());
-    fs::create_directories(dir);
     write("index", "<h1>Kolm</h1><p>Inhalt</p>");
     write("menue_datei", "<h1>Menü Datei</h1>");
     write("hilfe_benutzen", "<h1>Hilfe benutzen</h1>");
@@ -49,7 +47,6 @@ struct HelpFixture : ::testing::Test {
     scripted.services.help = &help;
     RegisterMainForms(forms, dir.string());
   }
-  void TearDown() override { fs::remove_all(dir); }
 
   void write(const std::string& topic, const std::string& body) {
     std::ofstream(dir / (topic + ".html"), std::ios::binary) << "<html><body>" << body << "</body></html>";

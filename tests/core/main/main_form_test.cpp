@@ -196,11 +196,11 @@ TEST_F(MainFixture, MenusWithEntriesOpenSubmenusAndNothingElseDoes) {
 }
 
 TEST_F(MainFixture, KeyedViewEntriesCarryTheirShortcuts) {
-  EXPECT_EQ(c("MnuAnsichtBeschriftung").shortcutKeys(), "Ctrl+B");
-  EXPECT_EQ(c("mnuAnsichtHintergrundgrafiken").shortcutKeys(), "Ctrl+H");
-  EXPECT_EQ(c("mnuAnsichtPunkteKontrolle").shortcutKeys(), "Ctrl+P");
-  EXPECT_EQ(c("mnuAnsichtTaschenrechner").shortcutKeys(), "Ctrl+T");
-  EXPECT_EQ(c("MnuDateiNeuTabelle").shortcutKeys(), "");
+  for (const auto& [entry, keys] : std::vector<std::pair<const char*, const char*>>{
+           {"MnuAnsichtBeschriftung", "Ctrl+B"}, {"mnuAnsichtHintergrundgrafiken", "Ctrl+H"},
+           {"mnuAnsichtPunkteKontrolle", "Ctrl+P"}, {"mnuAnsichtTaschenrechner", "Ctrl+T"},
+           {"MnuDateiNeuTabelle", ""}})
+    EXPECT_EQ(c(entry).shortcutKeys(), keys) << entry;
 }
 
 TEST_F(MainFixture, SeparatorsSplitTheGroups) {
@@ -455,10 +455,10 @@ TEST_F(MainFixture, InfoOpensAModalBoxClosedByOK) {
 // ---- caption, strip, status line, BlueBox ------------------------------------------------
 
 TEST_F(MainFixture, CaptionNamesTheProject) {
-  main->setProjectName("Demo Projekt");
-  EXPECT_EQ(main->caption(), "Kolm: Demo Projekt");
-  main->setProjectName("[/home/bauleiter/B17]");
-  EXPECT_EQ(main->caption(), "Kolm: [/home/bauleiter/B17]");
+  for (const std::string name : {"Demo Projekt", "[/home/bauleiter/B17]"}) {
+    main->setProjectName(name);
+    EXPECT_EQ(main->caption(), "Kolm: " + name);
+  }
 }
 
 TEST_F(MainFixture, SettingsStripOffersTheSystemsAndAngleUnits) {
@@ -470,9 +470,6 @@ TEST_F(MainFixture, SettingsStripOffersTheSystemsAndAngleUnits) {
   EXPECT_TRUE(c("KoordinatenSystem").isDropDownList());
   EXPECT_EQ(c("ComboWinkelEinheit").list(), (std::vector<std::string>{"Neugrad", "Altgrad", "Radiant"}));
   EXPECT_TRUE(c("ComboWinkelEinheit").isDropDownList());
-  EXPECT_EQ(c("LabelAktTab").kind(), ControlKind::Label);
-  EXPECT_EQ(c("LabelPktTab").kind(), ControlKind::Label);
-  EXPECT_EQ(c("LabelInfo").kind(), ControlKind::Label);
 }
 
 TEST_F(MainFixture, HeightOrZEntryFollowsTheTableSystem) {
@@ -556,7 +553,6 @@ TEST_F(MainFixture, BlueBoxTakesDropsAndHasItsList) {
   EXPECT_EQ(c("DragContainer").captionText(), "Blue Box für Drag && Drop");
   EXPECT_TRUE(c("DragContainer").isDropTarget());
   EXPECT_TRUE(c("DragContainer").isDraggable());
-  EXPECT_EQ(c("cmbBlueBox").kind(), ControlKind::ComboBox);
   EXPECT_TRUE(c("cmbBlueBox").isDraggable());
 }
 

@@ -1,37 +1,20 @@
 #pragma once
 // A private temporary folder per test and byte-exact file access.
-#include <unistd.h>
-
-#include <atomic>
 #include <filesystem>
 #include <stdexcept>
 #include <string>
 #include <string_view>
 
 #include "core/io/files.h"
+#include "support/test_ordner.h"
 
 namespace kolm::core::profile::support {
 
-struct TempDir {
-  std::filesystem::path path;
-  TempDir() {
-    static std::atomic<int> counter{0};
-    path = std::filesystem::temp_directory_path() /
-           ("kolm-profile-" + std::to_string(::getpid()) + "-" + std::to_string(counter++));
-    std::filesystem::remove_all(path);
-    std::filesystem::create_directories(path);
-  }
-  ~TempDir() {
-    io::SetFaultHook(nullptr);
-    std::error_code ec;
-    std::filesystem::remove_all(path, ec);
-  }
-  std::string file(std::string_view name) const { return (path / name).string(); }
-  std::size_t entries() const {
-    std::size_t n = 0;
-    for (auto it = std::filesystem::directory_iterator(path); it != std::filesystem::directory_iterator(); ++it) ++n;
-    return n;
-  }
+struct TempDir : kolm::testhilfen::TestOrdner {
+  TempDir() : TestOrdner("profile") {}
+  const std::filesystem::path& path = pfad;
+  std::string file(std::string_view name) const { return datei(std::string(name)); }
+  std::size_t entries() const { return dateien().size(); }
 };
 
 inline std::string Put(const std::string& path, std::string_view bytes) {

@@ -13,6 +13,7 @@
 #include "core/settings/einstellungen_datei.h"
 #include "core/state/zustand.h"
 #include "forms/scripted.h"
+#include "support/test_ordner.h"
 
 namespace kolm::core::einstellungstest {
 
@@ -21,7 +22,8 @@ namespace fs = std::filesystem;
 // <tmp>/kolm-einst-XXXXXX with "config/Kolm/Kolm.ini" (not made) and the
 // project folder "Projekt A/".
 struct Umgebung {
-  fs::path wurzel;
+  kolm::testhilfen::TestOrdner tmp{"einst"};
+  const fs::path& wurzel = tmp.pfad;
   std::map<std::string, std::string> variablen;
   std::unique_ptr<Zustand> z = std::make_unique<Zustand>();
   forms::ScriptedMessages meldungen;
@@ -29,8 +31,6 @@ struct Umgebung {
   EinstellungsKontext k{*z};
 
   Umgebung() {
-    std::string muster = (fs::temp_directory_path() / "kolm-einst-XXXXXX").string();
-    wurzel = ::mkdtemp(muster.data());
     fs::create_directories(wurzel / "Projekt A");
     variablen["KOLM_INI"] = kolmIni();
     k.umgebung = [this](const char* name) -> const char* {
@@ -41,11 +41,6 @@ struct Umgebung {
     k.busy = &busy;
     z->ProgrammVerzeichnis = (wurzel / "programm").string() + "/";
     projektOeffnen("Projekt A");
-  }
-  ~Umgebung() {
-    io::SetFaultHook(nullptr);
-    std::error_code ec;
-    fs::remove_all(wurzel, ec);
   }
 
   std::string kolmIni() const { return (wurzel / "config" / "Kolm" / "Kolm.ini").string(); }

@@ -66,16 +66,11 @@ TEST(NeuerZustand, TwoStatesShareNothing) {
 
 TEST(Punkte, AnzahlPunkteIsClampedTo999Through9999) {
   auto z = Neu();
-  z->PunkteDimensionieren(500);
-  EXPECT_EQ(z->AnzahlPunkte, 999);
-  EXPECT_EQ(z->Punkte.size(), 1000u);
-  z->PunkteDimensionieren(20000);
-  EXPECT_EQ(z->AnzahlPunkte, 9999);
-  EXPECT_EQ(z->Punkte.size(), 10000u);
-  z->PunkteDimensionieren(0);
-  EXPECT_EQ(z->AnzahlPunkte, 999);
-  z->PunkteDimensionieren(4711);
-  EXPECT_EQ(z->Punkte.size(), 4712u);
+  for (const auto& [verlangt, anzahl] : {std::pair{500, 999}, {20000, 9999}, {0, 999}, {4711, 4711}}) {
+    z->PunkteDimensionieren(verlangt);
+    EXPECT_EQ(z->AnzahlPunkte, anzahl) << verlangt;
+    EXPECT_EQ(z->Punkte.size(), static_cast<std::size_t>(anzahl) + 1) << verlangt;
+  }
 }
 
 TEST(Punkte, ResizingKeepsThePointsThatStillFit) {
@@ -136,21 +131,6 @@ TEST(Punkte, AStandardDesignationOutsideTheListCountsAsEntryZero) {
   z->StandardKurzBezeichnung = 99;
   z->PunktLoeschen(1);
   EXPECT_EQ(z->Punkte[1].KurzBez, 99);
-}
-
-TEST(Punkte, CaptionOffsetsOfTheNineAlignments) {
-  const float d = 2;
-  const float erwartet[9][2] = {{0, 0}, {0, d}, {d, d}, {d, 0}, {d, -d}, {0, -d}, {-d, -d}, {-d, 0}, {-d, d}};
-  for (int a = 0; a <= 8; ++a) {
-    Single dx = 7, dy = 7;
-    RichtungsVersatz(a, d, dx, dy);
-    EXPECT_EQ(dx, erwartet[a][0]) << a;
-    EXPECT_EQ(dy, erwartet[a][1]) << a;
-  }
-  Single dx = 7, dy = 8;
-  RichtungsVersatz(9, d, dx, dy);
-  EXPECT_EQ(dx, 7);
-  EXPECT_EQ(dy, 8) << "an alignment above 8 leaves the offsets as they were";
 }
 
 TEST(Punkte, ClearingASlotBelowTheCursorLowersIt) {

@@ -80,20 +80,6 @@ TEST(BerechnungenDatei, SavedFilesWriteBackByteForByte) {
   EXPECT_EQ(u.z().Berechnungen[299].Element[499], (499 * 37 + 299) % 1000 - 400);
 }
 
-TEST(BerechnungenDatei, ATruncatedFileKeepsTheCompleteLeadingValues) {
-  Umgebung u;
-  u.ordner.schreiben("T.ber", "\"           7\"\r\n42.75\r\n-1\r\n");
-  LeseBerechnungen(u.kontext, "T");
-  const Berechnung& b = u.z().Berechnungen[0];
-  EXPECT_EQ(b.LVNr, LVNummer::Rechts("7"));
-  EXPECT_EQ(b.Ergebnis, 42.75);
-  EXPECT_EQ(b.Flaeche, Wahr);
-  EXPECT_EQ(b.Farbe, 0);
-  EXPECT_EQ(b.KorrekturIndex, (std::array<Integer, 3>{-1, -1, -1}));
-  EXPECT_EQ(b.Anzahl, 0);
-  EXPECT_TRUE(u.z().Berechnungen[1].LVNr.IstLeer());
-}
-
 // The values of the first two records in file order, as texts.
 std::vector<std::string> Werte(const std::vector<Berechnung>& b, int anzahl0, int anzahl1) {
   std::vector<std::string> w;

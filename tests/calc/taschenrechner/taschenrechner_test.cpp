@@ -93,26 +93,39 @@ TEST_F(TaschenrechnerTest, DyadicKeysAndButtonsTakeYFromTheStack) {
   EXPECT_EQ(u.anzeige(), "-5.");
 }
 
-TEST_F(TaschenrechnerTest, FunctionsOfX) {
-  EXPECT_EQ(u.mit("8", "Funk", 0), "0.125");
-  EXPECT_EQ(u.mit("5", "Funk", 2), "25.");
-  EXPECT_EQ(u.mit("2", "Funk", 3), "1.414214");
-  EXPECT_EQ(u.mit("50", "Funk", 4), "0.5");
-  EXPECT_EQ(u.mit("5", "Funk", 5), "120.");
-  EXPECT_EQ(u.mit("10", "Log", 0), "2.302585");
-  EXPECT_EQ(u.mit("1", "Log", 1), "2.718282");
-  EXPECT_EQ(u.mit("1000", "Log", 2), "3.");
-  EXPECT_EQ(u.mit("2.5", "Log", 3), "316.227766");
+TEST_F(TaschenrechnerTest, FunctionsOfXInEachAngleUnit) {
+  struct Fall {
+    int einheit;  // the main window's entry: 0 gon, 1 degrees, 2 radians
+    const char* x;
+    const char* knopf;
+    int index;
+    const char* anzeige;
+  };
+  const Fall faelle[] = {
+      {0, "8", "Funk", 0, "0.125"},       {0, "5", "Funk", 2, "25."},          {0, "2", "Funk", 3, "1.414214"},
+      {0, "50", "Funk", 4, "0.5"},        {0, "5", "Funk", 5, "120."},         {0, "10", "Log", 0, "2.302585"},
+      {0, "1", "Log", 1, "2.718282"},     {0, "1000", "Log", 2, "3."},         {0, "2.5", "Log", 3, "316.227766"},
+      // the factorial rounds half to even and stops at 170
+      {0, "2.5", "Funk", 5, "2."},        {0, "3.5", "Funk", 5, "24."},        {0, "0", "Funk", 5, "1."},
+      {0, "170.4", "Funk", 5, "7.2574156E306"},
+      {0, "50", "Trig", 0, "0.707107"},
+      {0, "100", "Trig", 2, "-2.0510343E-10"},  // cos of 100 gon with Pi = 3.141592654
+      {0, "100", "Trig", 4, "-4.8755889E9"},    {0, "0.5", "Trig", 1, "33.333333"},
+      {0, "1", "Trig", 1, "100."},              {0, "0.5", "Trig", 3, "66.666667"},
+      {0, "-0.5", "Trig", 3, "-66.666667"},     // negative for a negative argument
+      {0, "0", "Trig", 3, "0.E0"},              // 0, not 100 gon
+      {0, "1", "Trig", 5, "50."},               {1, "30", "Trig", 0, "0.5"},
+      {1, "-1", "Trig", 1, "-90."},             {2, "1", "Trig", 0, "0.841471"},
+      {2, "1", "Trig", 5, "0.785398"},
+  };
+  for (const Fall& f : faelle) {
+    SCOPED_TRACE(std::string(f.knopf) + std::to_string(f.index) + " of " + f.x);
+    u.winkeleinheit(f.einheit);
+    u.text().setText(f.x);
+    u.klicke(f.knopf, f.index);
+    EXPECT_EQ(u.anzeige(), f.anzeige);
+  }
   EXPECT_TRUE(u.stack().empty());
-  EXPECT_TRUE(u.meldungen().empty());
-}
-
-TEST_F(TaschenrechnerTest, FactorialRoundsHalfToEvenAndStopsAt170) {
-  EXPECT_EQ(u.mit("2.5", "Funk", 5), "2.");
-  EXPECT_EQ(u.mit("3.5", "Funk", 5), "24.");
-  EXPECT_EQ(u.mit("0", "Funk", 5), "1.");
-  EXPECT_EQ(u.mit("170", "Funk", 5), "7.2574156E306");
-  EXPECT_EQ(u.mit("170.4", "Funk", 5), "7.2574156E306");
   EXPECT_TRUE(u.meldungen().empty());
   EXPECT_EQ(u.mit("171", "Funk", 5), "171");
   einzigeMeldung("Die Fakultät ist nur für Zahlen\nkleiner oder gleich 170 berechenbar!", "Taschenrechner Fehler");
@@ -131,34 +144,6 @@ TEST_F(TaschenrechnerTest, PiPushesXAndTakesTheKeysOwnValue) {
   EXPECT_EQ(u.stack(), (std::vector<std::string>{"2.", "9.869607"}));
   u.klicke("Calc", 7);
   EXPECT_EQ(u.anzeige(), "6.728014");
-}
-
-TEST_F(TaschenrechnerTest, AnglesFollowTheUnitOfTheMainWindow) {
-  EXPECT_EQ(u.mit("50", "Trig", 0), "0.707107");
-  EXPECT_EQ(u.mit("100", "Trig", 2), "-2.0510343E-10") << "cos of 100 gon with Pi = 3.141592654";
-  EXPECT_EQ(u.mit("100", "Trig", 4), "-4.8755889E9");
-  EXPECT_EQ(u.mit("0.5", "Trig", 1), "33.333333");
-  EXPECT_EQ(u.mit("1", "Trig", 1), "100.");
-  EXPECT_EQ(u.mit("0.5", "Trig", 3), "66.666667");
-  EXPECT_EQ(u.mit("1", "Trig", 5), "50.");
-  u.winkeleinheit(1);
-  EXPECT_EQ(u.mit("30", "Trig", 0), "0.5");
-  u.tippe("1");
-  u.klicke("Calc", 0);
-  u.klicke("Trig", 1);
-  EXPECT_EQ(u.anzeige(), "-90.");
-  u.winkeleinheit(2);
-  EXPECT_EQ(u.mit("1", "Trig", 0), "0.841471");
-  EXPECT_EQ(u.mit("1", "Trig", 5), "0.785398");
-}
-
-TEST_F(TaschenrechnerTest, ArcCosineKeepsItsOddities) {
-  u.tippe("0.5");
-  u.klicke("Calc", 0);
-  EXPECT_EQ(u.anzeige(), "-0.5");
-  u.klicke("Trig", 3);
-  EXPECT_EQ(u.anzeige(), "-66.666667") << "negative for a negative argument";
-  EXPECT_EQ(u.mit("0", "Trig", 3), "0.E0") << "0, not 100 gon";
 }
 
 TEST_F(TaschenrechnerTest, RefusedArgumentsLeaveStackAndX) {

@@ -85,44 +85,21 @@ TEST(SchnittGeradeKreis, TheFirstSolutionLiesAheadAlongTheLine) {
   }
 }
 
-TEST(SchnittGeradeKreis, ATangentLineGivesTwoEqualPoints) {
-  double ma = 0, mb = 0, pa = 5, pb = -9;
-  EXPECT_TRUE(SchnittGeradeKreis(ma, mb, 5, pa, pb, 0, 1));
-  EXPECT_EQ(ma, 5.0);
-  EXPECT_EQ(mb, 0.0);
-  EXPECT_EQ(pa, 5.0);
-  EXPECT_EQ(pb, 0.0);
-}
-
-TEST(SchnittGeradeKreis, MissingTheCircleZeroesAllFour) {
-  double ma = 0, mb = 0, pa = 6, pb = 0;
-  EXPECT_FALSE(SchnittGeradeKreis(ma, mb, 5, pa, pb, 0, 1));
-  EXPECT_EQ(ma, 0);
-  EXPECT_EQ(mb, 0);
-  EXPECT_EQ(pa, 0);
-  EXPECT_EQ(pb, 0);
-}
-
-TEST(SchnittGeradeKreis, ZeroRadius) {
-  // Through the centre: both points are the centre.
-  double ma = 2, mb = 3, pa = 7, pb = 3;
-  EXPECT_TRUE(SchnittGeradeKreis(ma, mb, 0, pa, pb, 1, 0));
-  EXPECT_EQ(ma, 2);
-  EXPECT_EQ(pa, 2);
-  EXPECT_EQ(pb, 3);
-  // Beside it: no intersection.
-  ma = 0, mb = 0, pa = 7, pb = 1;
-  EXPECT_FALSE(SchnittGeradeKreis(ma, mb, 0, pa, pb, 1, 0));
-  EXPECT_EQ(pa, 0);
-}
-
-TEST(SchnittGeradeKreis, NoDirectionChangesNothing) {
-  double ma = 1, mb = 2, pa = 3, pb = 4;
-  EXPECT_FALSE(SchnittGeradeKreis(ma, mb, 10, pa, pb, 0, 0));
-  EXPECT_EQ(ma, 1);
-  EXPECT_EQ(mb, 2);
-  EXPECT_EQ(pa, 3);
-  EXPECT_EQ(pb, 4);
+TEST(SchnittGeradeKreis, TouchingMissingZeroRadiusAndNoDirection) {
+  struct Fall { const char* was; double ma, mb, r, pa, pb, da, db; bool ok; double e[4]; };
+  for (const Fall& f : {
+           Fall{"a tangent line gives two equal points", 0, 0, 5, 5, -9, 0, 1, true, {5, 0, 5, 0}},
+           Fall{"missing the circle zeroes all four", 0, 0, 5, 6, 0, 0, 1, false, {0, 0, 0, 0}},
+           Fall{"radius 0 through the centre: both are the centre", 2, 3, 0, 7, 3, 1, 0, true, {2, 3, 2, 3}},
+           Fall{"radius 0 beside the centre", 0, 0, 0, 7, 1, 1, 0, false, {0, 0, 0, 0}},
+           Fall{"no direction changes nothing", 1, 2, 10, 3, 4, 0, 0, false, {1, 2, 3, 4}}}) {
+    double ma = f.ma, mb = f.mb, pa = f.pa, pb = f.pb;
+    EXPECT_EQ(SchnittGeradeKreis(ma, mb, f.r, pa, pb, f.da, f.db), f.ok) << f.was;
+    EXPECT_EQ(ma, f.e[0]) << f.was;
+    EXPECT_EQ(mb, f.e[1]) << f.was;
+    EXPECT_EQ(pa, f.e[2]) << f.was;
+    EXPECT_EQ(pb, f.e[3]) << f.was;
+  }
 }
 
 struct KreisFall { double a1, b1, r1, a2, b2, r2, e1a, e1b, e2a, e2b; };

@@ -114,29 +114,22 @@ TEST(VorwaertsschnittRechnen, WorkedPointsReproduceTheAngles) {
   }
 }
 
-TEST(VorwaertsschnittRechnen, RaysAlongTheBaseDifferOnlyByRounding) {
-  // tan(Pi) of the program's Pi is not 0: the slopes differ and P2 results.
-  double a1 = 0, b1 = 0;
-  EXPECT_TRUE(VorwaertsschnittRechnen(a1, b1, 100, 0, 0, 0, kNeugrad));
-  EXPECT_NEAR(a1, 100.0, kGenau);
-  EXPECT_NEAR(b1, 0.0, kGenau);
-}
-
-TEST(VorwaertsschnittRechnen, ExactlyEqualSlopesFailAndKeepThePoint) {
-  double a1 = 0, b1 = 0;
-  EXPECT_FALSE(VorwaertsschnittRechnen(a1, b1, 100, 0, 100, 100, kNeugrad));
-  EXPECT_EQ(a1, 0);
-  EXPECT_EQ(b1, 0);
-}
-
-TEST(VorwaertsschnittRechnen, IgnoresTheCoordinateSystem) {
-  for (const Winkelsystem& s : {Winkelsystem{kPi / 200, true, false},
-                                Winkelsystem{kPi / 200, false, true},
-                                Winkelsystem{kPi / 200, true, true}}) {
+TEST(VorwaertsschnittRechnen, EdgesAndTheCoordinateSystem) {
+  struct Fall { const char* was; double w1, w2; Winkelsystem s; bool ok; double ea, eb; };
+  const Fall faelle[] = {
+      // tan(Pi) of the program's Pi is not 0: the slopes differ and P2 results.
+      {"rays along the base differ only by rounding", 0, 0, kNeugrad, true, 100, 0},
+      {"exactly equal slopes fail and keep the point", 100, 100, kNeugrad, false, 0, 0},
+      {"M31 is ignored", 50, 50, Winkelsystem{kPi / 200, true, false}, true, 49.99999997948965, 49.999999989744836},
+      {"the sense is ignored", 50, 50, Winkelsystem{kPi / 200, false, true}, true, 49.99999997948965,
+       49.999999989744836},
+      {"both are ignored", 50, 50, Winkelsystem{kPi / 200, true, true}, true, 49.99999997948965, 49.999999989744836},
+  };
+  for (const Fall& f : faelle) {
     double a1 = 0, b1 = 0;
-    EXPECT_TRUE(VorwaertsschnittRechnen(a1, b1, 100, 0, 50, 50, s));
-    EXPECT_NEAR(a1, 49.99999997948965, kGenau);
-    EXPECT_NEAR(b1, 49.999999989744836, kGenau);
+    EXPECT_EQ(VorwaertsschnittRechnen(a1, b1, 100, 0, f.w1, f.w2, f.s), f.ok) << f.was;
+    EXPECT_NEAR(a1, f.ea, kGenau) << f.was;
+    EXPECT_NEAR(b1, f.eb, kGenau) << f.was;
   }
 }
 

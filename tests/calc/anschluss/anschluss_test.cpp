@@ -1,8 +1,8 @@
 // Direct and indirect tie and the angle between three points, as the user
 // opens and fills them. Values from data/anschluss_dialoge.py: the station
 // S = (1040, 1920), P1 = (1000, 2000) at height 55, P2 = (1100, 2050).
-// Captions, typed points, storing and M31 are covered end to end by the
-// rechnen_*anschluss* macros.
+// Captions, typed points, storing, M31 and a polar table are covered end to
+// end by the rechnen_*anschluss* macros.
 #include <string>
 #include <vector>
 
@@ -22,15 +22,9 @@ const std::vector<const char*> kDirektWerte = {"89.4427191", "12,3456", "69.3902
 const std::vector<const char*> kIndirektWerte = {"120.30019098", "50", "70", "57.044657488"};
 
 struct AnschlussUmgebung : MenueUmgebung {
-  explicit AnschlussUmgebung(bool polar = false) {
-    zustand.Polar = polar ? core::Wahr : core::Falsch;
-    if (polar) {
-      punkt(1, 2236.0679775, 70.483276461);
-      punkt(2, 2326.478024826, 68.647382375);
-    } else {
-      punkt(1, 1000, 2000, 55);
-      punkt(2, 1100, 2050);
-    }
+  AnschlussUmgebung() {
+    punkt(1, 1000, 2000, 55);
+    punkt(2, 1100, 2050);
   }
   RechenDialog& rechnen(Dialog dialog, const std::vector<const char*>& werte, const char* p2 = "2") {
     RechenDialog& d = oeffnen(dialog.menue, dialog.form);
@@ -66,23 +60,6 @@ TEST(Anschluss, TheStationFromEachTieWithoutAHeightOfItsOwn) {
     EXPECT_NEAR(d.Ergebnis().A, f.a, kGenau);
     EXPECT_NEAR(d.Ergebnis().B, f.b, kGenau);
     EXPECT_EQ(d.Ergebnis().C, 0) << "the station takes no height from P1";
-  }
-}
-
-TEST(Anschluss, APolarTableIsCalculatedRectangularAndShownAndStoredPolar) {
-  for (const auto& [dialog, werte] : {std::pair{kDirekt, kDirektWerte}, std::pair{kIndirekt, kIndirektWerte}}) {
-    SCOPED_TRACE(dialog.form);
-    AnschlussUmgebung u(true);
-    RechenDialog& d = u.rechnen(dialog, werte);
-    EXPECT_EQ(d.control("LabelA").captionText(), "&e =");
-    EXPECT_EQ(d.control("LabelB").captionText(), "&Phi =");
-    EXPECT_EQ(d.control("ErgA").captionText(), "2183.575");
-    EXPECT_EQ(d.control("ErgB").captionText(), "68.397");
-    EXPECT_NEAR(d.Eingabe(0).B, 70.483276461, 1e-7) << "the inputs go back to polar";
-    EXPECT_NEAR(d.Eingabe(1).B, 68.647382375, 1e-7);
-    d.control("Speichern").click();
-    EXPECT_NEAR(u.zustand.Punkte[3].A, 2183.575050233, kGenau);
-    EXPECT_NEAR(u.zustand.Punkte[3].B, 68.396745964, 1e-7);
   }
 }
 
@@ -122,27 +99,24 @@ TEST(WinkelZwischen3, TheUnsignedAngleAtP2InEveryUnitSystemAndTable) {
   struct Fall {
     const char* name;
     double faktor;
-    bool m31, polar;
+    bool m31;
     double p[3][2];
     const char* nummern[3];
     double winkel;
   };
   const Fall faelle[] = {
-      {"gon", kPi / 200, false, false, {{100, 200}, {130, 240}, {90, 250}}, {"1", "2", "3"}, 74.629273126},
-      {"gon, outer points swapped", kPi / 200, false, false, {{100, 200}, {130, 240}, {90, 250}}, {"3", "2", "1"},
+      {"gon", kPi / 200, false, {{100, 200}, {130, 240}, {90, 250}}, {"1", "2", "3"}, 74.629273126},
+      {"gon, outer points swapped", kPi / 200, false, {{100, 200}, {130, 240}, {90, 250}}, {"3", "2", "1"},
        74.629273126},
-      {"degrees, obtuse", kPi / 180, false, false, {{3, 1}, {0, 0}, {-5, -1}}, {"1", "2", "3"}, 172.874983629},
-      {"M31", kPi / 200, true, false, {{10, 0}, {0, 0}, {0, 10}}, {"1", "2", "3"}, 99.999999987},
-      // (10, 0), the origin and (0, 10) as the polar table holds them
-      {"polar", kPi / 200, false, true, {{10, 0}, {0, 0}, {10, 100}}, {"1", "2", "3"}, 99.999999987},
-      {"identical points give 0 without a box", kPi / 200, false, false, {{5, 5}, {7, 9}, {0, 0}}, {"1", "1", "2"}, 0},
+      {"degrees, obtuse", kPi / 180, false, {{3, 1}, {0, 0}, {-5, -1}}, {"1", "2", "3"}, 172.874983629},
+      {"M31", kPi / 200, true, {{10, 0}, {0, 0}, {0, 10}}, {"1", "2", "3"}, 99.999999987},
+      {"identical points give 0 without a box", kPi / 200, false, {{5, 5}, {7, 9}, {0, 0}}, {"1", "1", "2"}, 0},
   };
   for (const Fall& f : faelle) {
     SCOPED_TRACE(f.name);
     MenueUmgebung u;
     u.zustand.WinkelFaktor = f.faktor;
     u.zustand.M31 = f.m31 ? core::Wahr : core::Falsch;
-    u.zustand.Polar = f.polar ? core::Wahr : core::Falsch;
     for (int i = 0; i < 3; ++i) u.punkt(i + 1, f.p[i][0], f.p[i][1]);
     RechenDialog& d = u.oeffnen("MnuGerWinkel", "WinkelZwischen3");
     d.control("PP1Nr").setText(f.nummern[0]);
@@ -151,7 +125,6 @@ TEST(WinkelZwischen3, TheUnsignedAngleAtP2InEveryUnitSystemAndTable) {
     d.control("Berechnen").click();
     EXPECT_TRUE(u.meldungen().empty());
     EXPECT_NEAR(u.zahl(d.control("Erg").captionText()), f.winkel, 1e-6);
-    if (f.polar) EXPECT_NEAR(d.Eingabe(2).B, 100, 1e-7) << "the records stay polar";
   }
 }
 

@@ -92,30 +92,6 @@ TEST_F(EinrechnenTest, FortlaufendGoesOnFromTheLastResult) {
   EXPECT_EQ(d.control("ErgB").captionText(), "37.889");
 }
 
-TEST_F(EinrechnenTest, APolarTableGivesAPolarResultAndSendsTheLineBack) {
-  u.zustand.Polar = core::Wahr;
-  u.polarPunkt(1, 30, 40);
-  u.polarPunkt(2, 90, 120);
-  RechenDialog& d = oeffnen();
-  d.control("G1P1Nr").setText("1");
-  d.control("G1P2Nr").setText("2");
-  d.control("Param", 0).setText("50");
-  d.control("Berechnen").click();
-  EXPECT_EQ(d.control("LabelA").captionText(), "e =");
-  EXPECT_EQ(d.control("LabelB").captionText(), "Phi =");
-  EXPECT_NEAR(d.Ergebnis().A, 100, 1e-6);
-  EXPECT_NEAR(d.Ergebnis().B, 59.033447052, 1e-6);
-  EXPECT_NEAR(d.Eingabe(0).A, 50, 1e-9);
-  EXPECT_NEAR(d.Eingabe(0).B, 59.033447052, 1e-6);
-  EXPECT_NEAR(d.Eingabe(1).A, 150, 1e-9);
-  // Continued, A takes the polar result as it is.
-  d.control("OptionFortlaufend").click();
-  d.control("Berechnen").click();
-  EXPECT_NEAR(d.Eingabe(0).A, 100, 1e-6);
-  EXPECT_NEAR(d.Eingabe(0).B, 59.033447052, 1e-6);
-  EXPECT_NEAR(d.Ergebnis().A, 100, 1e-6);
-}
-
 TEST_F(EinrechnenTest, WithoutADirectionTheMessageAndNoResult) {
   u.punkt(1, 100, 200);
   RechenDialog& d = oeffnen();

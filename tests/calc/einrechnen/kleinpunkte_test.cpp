@@ -130,26 +130,6 @@ TEST_F(KleinpunkteTest, AnAngleOfThreeQuartersOrMoreRunsTowardPositiveA) {
   EXPECT_NEAR(d.Ergebnis().B, -3.090170, 1e-6);
 }
 
-TEST_F(KleinpunkteTest, APolarTableGivesAPolarPAndSendsTheLineBack) {
-  u.zustand.Polar = core::Wahr;
-  u.polarPunkt(1, 30, 40);
-  u.polarPunkt(2, 90, 120);
-  RechenDialog& d = oeffnen();
-  d.control("G1P1Nr").setText("1");  // P starts at A
-  d.control("G1P2Nr").setText("2");
-  d.control("Param", 0).setText("50");
-  d.control("Berechnen").click();
-  EXPECT_EQ(d.control("LabelA").captionText(), "e =");
-  EXPECT_NEAR(d.Ergebnis().A, 100, 1e-6);
-  EXPECT_NEAR(d.Ergebnis().B, 59.033447052, 1e-6);
-  EXPECT_NEAR(d.Eingabe(0).A, 50, 1e-9);
-  EXPECT_NEAR(d.Eingabe(1).A, 150, 1e-9);
-  EXPECT_NEAR(d.Eingabe(2).A, 100, 1e-6) << "P holds the polar result";
-  EXPECT_NEAR(d.Eingabe(2).B, 59.033447052, 1e-6);
-  d.control("Berechnen").click();
-  EXPECT_NEAR(d.Ergebnis().A, 150, 1e-6);
-}
-
 TEST_F(KleinpunkteTest, WithoutADirectionTheMessageAndAPolarPStaysRectangular) {
   u.zustand.Polar = core::Wahr;
   u.polarPunkt(1, 30, 40);

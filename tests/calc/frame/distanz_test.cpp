@@ -1,5 +1,5 @@
-// Distanz as the user opens it from the menu and fills it. Its captions
-// and a worked M31 case are covered end to end by the
+// Distanz as the user opens it from the menu and fills it. Its captions, a
+// worked M31 case and a polar table are covered end to end by the
 // rechnen_anschluss_polar_m31 macro.
 #include <gtest/gtest.h>
 
@@ -17,26 +17,22 @@ constexpr double kOffen = std::numeric_limits<double>::quiet_NaN();  // not chec
 TEST(Distanz, LengthDirectionGradientAndDifferencesInEachSystemAndTable) {
   struct Fall {
     const char* name;
-    bool m31, polar;
+    bool m31;
     double p1[2], p2[2];
     double erwartet[5];  // distance, angle, gradient in percent, the two differences
   };
   const Fall faelle[] = {
-      {"system 0", false, false, {100, 200}, {130, 240},
+      {"system 0", false, {100, 200}, {130, 240},
        {50, std::atan2(40.0, 30.0) * kGonProRad, 100.0 * 40 / 30, 30, 40}},
       // 30 to the right (Y), 40 up (X): the tangent of the system's own angle
-      {"M31 runs clockwise from the axis up", true, false, {0, 0}, {30, 40},
+      {"M31 runs clockwise from the axis up", true, {0, 0}, {30, 40},
        {50, std::atan2(30.0, 40.0) * kGonProRad, 100.0 * 30 / 40, kOffen, kOffen}},
-      // (10, 0) and (0, 10) as the polar table holds them
-      {"a polar table is measured rectangular", false, true, {10, 0}, {10, 100},
-       {std::sqrt(200.0), 150, kOffen, -10, 10}},
-      {"identical points give zero without a box", false, false, {5, 5}, {5, 5}, {0, kOffen, kOffen, 0, 0}},
+      {"identical points give zero without a box", false, {5, 5}, {5, 5}, {0, kOffen, kOffen, 0, 0}},
   };
   for (const Fall& f : faelle) {
     SCOPED_TRACE(f.name);
     MenueUmgebung u;
     u.zustand.M31 = f.m31 ? core::Wahr : core::Falsch;
-    u.zustand.Polar = f.polar ? core::Wahr : core::Falsch;
     u.punkt(1, f.p1[0], f.p1[1]);
     u.punkt(2, f.p2[0], f.p2[1]);
     RechenDialog& d = u.oeffnen("MnuGerDist", "Distanz");
@@ -46,10 +42,6 @@ TEST(Distanz, LengthDirectionGradientAndDifferencesInEachSystemAndTable) {
     EXPECT_TRUE(u.meldungen().empty());
     for (int i = 0; i < 5; ++i)
       if (!std::isnan(f.erwartet[i])) EXPECT_NEAR(MenueUmgebung::zahl(d.control("Erg", i)), f.erwartet[i], 1e-5) << i;
-    if (f.polar) {
-      EXPECT_NEAR(d.Eingabe(1).A, 10, 1e-9) << "the records stay polar";
-      EXPECT_NEAR(d.Eingabe(1).B, 100, 1e-7);
-    }
   }
 }
 

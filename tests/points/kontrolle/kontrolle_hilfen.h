@@ -17,6 +17,7 @@
 #include "forms/scripted.h"
 #include "points/kontrolle/verdrahtung.h"
 #include "points/tabelle/verdrahtung.h"
+#include "support/test_ordner.h"
 
 namespace kolm::points::test {
 
@@ -29,21 +30,10 @@ class GrafikAttrappe : public forms::Form {
   }
 };
 
-struct Projektordner {
-  std::filesystem::path pfad;
-  Projektordner() {
-    static std::atomic<int> zaehler{0};
-    pfad = std::filesystem::temp_directory_path() /
-           ("kolm-kontrolle-" + std::to_string(::getpid()) + "-" + std::to_string(zaehler++));
-    std::filesystem::remove_all(pfad);
-    std::filesystem::create_directories(pfad);
-  }
-  ~Projektordner() {
-    std::error_code ec;
-    std::filesystem::remove_all(pfad, ec);
-  }
-  std::string ini() const { return (pfad / "Kolmproj.ini").string(); }
-  bool iniDa() const { return std::filesystem::exists(pfad / "Kolmproj.ini"); }
+struct Projektordner : kolm::testhilfen::TestOrdner {
+  Projektordner() : TestOrdner("kontrolle") {}
+  std::string ini() const { return datei("Kolmproj.ini"); }
+  bool iniDa() const { return gibt("Kolmproj.ini"); }
 };
 
 struct Umgebung {

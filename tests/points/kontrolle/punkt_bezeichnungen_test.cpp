@@ -56,35 +56,39 @@ TEST(PunktBezeichnungen, NeuTakesTheFirstBlankEntryAndWritesItToTheProjectAtOnce
   EXPECT_TRUE(b.meldungen().empty());
 }
 
-TEST(PunktBezeichnungen, ANewNameIsCutToWhatTheSettingsFileGivesBack) {
-  Bezeichnungen b;
-  b.oeffnen();
-  const std::string lang(50, 'x');
-  b.neu(lang);
-  EXPECT_EQ(b.zustand.Kurzbezeichnungen[1].Text, std::string(39, 'x'));
-  EXPECT_EQ(b.ini("Punkt-Kurzbezeichnungen", "Bezeichnung 1"), std::string(39, 'x'));
-}
-
-TEST(PunktBezeichnungen, AnEmptyOrCancelledAnswerAddsNothing) {
-  Bezeichnungen b;
-  b.oeffnen();
-  b.neu(std::nullopt);
-  b.neu("");
-  b.neu("   ");
-  EXPECT_TRUE(numbers::IstLeer(b.zustand.Kurzbezeichnungen[1].Text));
-  EXPECT_FALSE(b.ordner.iniDa()) << "nothing was written";
-  EXPECT_TRUE(b.meldungen().empty());
-}
-
-TEST(PunktBezeichnungen, ANameAlreadyThereIsRefused) {
-  Bezeichnungen b;
-  b.oeffnen();
-  b.neu("Pkt.");
-  EXPECT_EQ(b.meldungen(), std::vector<std::string>{
-                               "Kurzbezeichnung hinzufügen: Diese Kurzbezeichnung existiert bereits!\n"
-                               "Geben Sie eine andere Kurzbezeichnung ein!"});
-  EXPECT_TRUE(numbers::IstLeer(b.zustand.Kurzbezeichnungen[1].Text));
-  EXPECT_FALSE(b.ordner.iniDa());
+TEST(PunktBezeichnungen, AnAnswerIsCutRefusedOrIgnoredAndKeyedInTheNumberFormat) {
+  const std::string vorhanden =
+      "Kurzbezeichnung hinzufügen: Diese Kurzbezeichnung existiert bereits!\nGeben Sie eine andere "
+      "Kurzbezeichnung ein!";
+  const struct {
+    std::vector<std::optional<std::string>> antworten;
+    const char* format;
+    std::string eintrag;  // entry 1 afterwards, "" for none
+    const char* schluessel;  // its key in the project file
+    std::string meldung;
+  } faelle[] = {
+      {{std::string(50, 'x')}, "###0", std::string(39, 'x'), "Bezeichnung 1", ""},  // what the file gives back
+      {{std::nullopt, "", "   "}, "###0", "", "", ""},                               // cancelled or empty
+      {{"Pkt."}, "###0", "", "", vorhanden},
+      {{"Baum"}, "000", "Baum", "Bezeichnung 001", ""},
+  };
+  for (const auto& fall : faelle) {
+    SCOPED_TRACE(fall.format + std::string(" ") + fall.eintrag);
+    Bezeichnungen b;
+    b.zustand.Einstellungen.NummernFormat = fall.format;
+    b.oeffnen();
+    for (const auto& antwort : fall.antworten) b.neu(antwort);
+    const auto& text = b.zustand.Kurzbezeichnungen[1].Text;
+    if (fall.eintrag.empty()) {
+      EXPECT_TRUE(numbers::IstLeer(text)) << text;
+      EXPECT_FALSE(b.ordner.iniDa()) << "nothing was written";
+    } else {
+      EXPECT_EQ(text, fall.eintrag);
+      EXPECT_EQ(b.ini("Punkt-Kurzbezeichnungen", fall.schluessel), fall.eintrag);
+      EXPECT_EQ(b.c("LabelIndex").captionText(), fall.schluessel + std::string("Bezeichnung ").size());
+    }
+    EXPECT_EQ(b.meldungen(), fall.meldung.empty() ? std::vector<std::string>{} : std::vector{fall.meldung});
+  }
 }
 
 TEST(PunktBezeichnungen, TheHundredAndFirstDesignationIsRefused) {
@@ -101,15 +105,6 @@ TEST(PunktBezeichnungen, TheHundredAndFirstDesignationIsRefused) {
                                "Löschen Sie zuerst eine nicht mehr benötigte Kurzbezeichnung!"});
   EXPECT_EQ(b.c("List").listCount(), 100);
   EXPECT_EQ(b.ini("Punkt-Kurzbezeichnungen", "Bezeichnung 99"), "Hundert");
-}
-
-TEST(PunktBezeichnungen, KeysCountTheIndexInTheNumberFormat) {
-  Bezeichnungen b;
-  b.zustand.Einstellungen.NummernFormat = "000";
-  b.oeffnen();
-  b.neu("Baum");
-  EXPECT_EQ(b.ini("Punkt-Kurzbezeichnungen", "Bezeichnung 001"), "Baum");
-  EXPECT_EQ(b.c("LabelIndex").captionText(), "001");
 }
 
 TEST(PunktBezeichnungen, DeletingAUsedDesignationAsksThenBlanksItAndThePointsKeepTheirIndex) {

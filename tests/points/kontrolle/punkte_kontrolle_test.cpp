@@ -178,18 +178,17 @@ TEST(PunkteKontrolle, InAPolarTableVertauschenNormalisesTheDirectionsInTheAngleU
   EXPECT_DOUBLE_EQ(k.zustand.Punkte[1].A, 10) << "the distance stays";
 }
 
-TEST(PunkteKontrolle, RundenWithTheDefaultResultFormatKeepsThreeDecimals) {
-  Kontrolle k;
-  k.punkt(1, 1.23456, 2.0004, -7.77777);
-  k.punkt(2, 1000.0005, -0.0004, 3);
-  k.markiere(1, 2);
-  k.klicke("Runden");
-  ErwartePunkt(k.zustand, 1, 1.235, 2, -7.778);
-  ErwartePunkt(k.zustand, 2, 1000.001, 0, 3);
-  EXPECT_TRUE(core::IstWahr(k.zustand.TabelleGeaendert));
-}
-
 TEST(PunkteKontrolle, RundenFollowsTheResultFormatAndLeavesAnUnusedThirdCoordinate) {
+  {
+    Kontrolle k;  // the default result format: three decimals
+    k.punkt(1, 1.23456, 2.0004, -7.77777);
+    k.punkt(2, 1000.0005, -0.0004, 3);
+    k.markiere(1, 2);
+    k.klicke("Runden");
+    ErwartePunkt(k.zustand, 1, 1.235, 2, -7.778);
+    ErwartePunkt(k.zustand, 2, 1000.001, 0, 3);
+    EXPECT_TRUE(core::IstWahr(k.zustand.TabelleGeaendert));
+  }
   Kontrolle k(false);
   k.zustand.Einstellungen.ErgebnisFormat = "0.0";
   k.punkt(4, 12.349, 0.06, 1.23456);

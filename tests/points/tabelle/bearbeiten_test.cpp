@@ -167,12 +167,6 @@ TEST(PunkteTabelleTippen, AnyKeysInAnyCellNeverBreakTheTable) {
   EXPECT_TRUE(t.dienste.messages.shown().empty());
 }
 
-}  // namespace
-}  // namespace kolm::points::test
-
-namespace kolm::points::test {
-namespace {
-
 TEST(PunkteTabelleTippen, ANumberBeyondTheRangeOfADoubleIsRefusedWithTheOverflowMessage) {
   Tabelle t;
   t.punkt(5, 12.5, 7, 0);

@@ -129,9 +129,7 @@ TEST_F(AusrundungTest, ATangentLongerThanTheSecondSideWarnsOnceAndStillGivesTheP
   u.punkt(2, 100, 0);
   u.punkt(3, 108, 6);
   RechenDialog& d = rechnen("OptionTangente", "20");
-  ASSERT_EQ(u.meldungen().size(), 1u);
-  EXPECT_EQ(u.meldungen()[0].message.text, kWarnung2);
-  EXPECT_EQ(u.meldungen()[0].message.icon, forms::Icon::Exclamation);
+  u.meldung(kWarnung2);
   EXPECT_EQ(d.control("ErgA", 0).captionText(), "80.000");
 }
 

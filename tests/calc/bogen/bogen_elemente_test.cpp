@@ -1,7 +1,7 @@
 // The elements of an arc from an angle, from a chord or arc, and from its
 // start and end point; worked values from data/werte.py. The saving of the
 // points, M31 and a polar table are covered by the rechnen_bogen macros.
-#include "bogen_umgebung.h"
+#include "calc/frame/menue_umgebung.h"
 
 namespace kolm::calc::testing {
 namespace {
@@ -9,7 +9,7 @@ namespace {
 using Felder = std::vector<std::string>;
 
 struct BogenElementeTest : ::testing::Test {
-  BogenUmgebung u;
+  MenueUmgebung u;
   RechenDialog& w() { return u.oeffnen("MnuKreisBogenWinkel", "BogenElementeW"); }
   RechenDialog& s() { return u.oeffnen("MnuKreisBogenSehne", "BogenElementeS"); }
   static void rechnen(RechenDialog& d, const std::string& p0, const std::string& p1) {
@@ -58,38 +58,38 @@ struct Fall {
 
 TEST_F(BogenElementeTest, ElementsInEveryUnitAndFromEveryPairOfValues) {
   const Fall faelle[] = {
-      {"angle in gon, radius", false, nullptr, BogenUmgebung::kGon, "50", "100",
+      {"angle in gon, radius", false, nullptr, kGon, "50", "100",
        {"100.000", "41.421356", "50.000", "78.540", "76.537", "38.268", "7.612", "8.239", "19.891"}},
-      {"angle in degrees, tangent", false, "OptionTangente", BogenUmgebung::kGrad, "60", "20",
+      {"angle in degrees, tangent", false, "OptionTangente", kGrad, "60", "20",
        {"34.641016", "20.000", "60.000", "36.276", "34.641", "17.321", "4.641", "5.359", "9.282"}},
       {"angle in radians, decimal comma", false, nullptr, 1, "1,2", "50",
        {"50.000", "34.20684", "1.200", "60.000", "56.464", "28.232", "8.733", "10.581", "15.467"}},
       // the cosine of 3.1415 is not exactly -1: no box
       {"radians just below the half circle", false, nullptr, 1, "3.1415", "10",
        {"10.000", "215857.799254", "3.1415", "31.415", "20.000", "10.000", "10.000", "215847.799", "10.000"}},
-      {"chord and radius", true, nullptr, BogenUmgebung::kGon, "80", "50",
+      {"chord and radius", true, nullptr, kGon, "80", "50",
        {"50.000", "66.666667", "118.066894", "92.730", "80.000", "40.000", "20.000", "33.333", "25.000"}},
-      {"chord and tangent", true, "OptionTangente", BogenUmgebung::kGon, "80", "60",
+      {"chord and tangent", true, "OptionTangente", kGon, "80", "60",
        {"53.665631", "60.000", "107.088189", "90.273", "80.000", "40.000", "17.889", "26.833", "24.000"}},
-      {"arc and radius in degrees", true, "OptionBogen", BogenUmgebung::kGrad, "100", "50",
+      {"arc and radius in degrees", true, "OptionBogen", kGrad, "100", "50",
        {"50.000", "77.870386", "114.591559", "100.000", "84.147", "42.074", "22.985", "42.541", "27.315"}},
       // the arc sine gives 0: no arc, every field 0, no box
-      {"chord longer than the diameter", true, nullptr, BogenUmgebung::kGon, "120", "50",
+      {"chord longer than the diameter", true, nullptr, kGon, "120", "50",
        {"50.000", "0.000", "0.000", "0.000", "0.000", "0.000", "0.000", "0.000", "0.000"}},
       // a tangent shorter than half the chord: no radius either
-      {"tangent shorter than half the chord", true, "OptionTangente", BogenUmgebung::kGon, "120", "50",
+      {"tangent shorter than half the chord", true, "OptionTangente", kGon, "120", "50",
        {"0.000", "50.000", "0.000"}},
   };
   for (const Fall& f : faelle) {
     SCOPED_TRACE(f.name);
-    BogenUmgebung v;
+    MenueUmgebung v;
     v.zustand.WinkelFaktor = f.faktor;
     RechenDialog& d = f.sehne ? v.oeffnen("MnuKreisBogenSehne", "BogenElementeS")
                               : v.oeffnen("MnuKreisBogenWinkel", "BogenElementeW");
     if (f.option) d.control(f.option).click();
     rechnen(d, f.p0, f.p1);
     EXPECT_TRUE(v.meldungen().empty());
-    BogenUmgebung::felder(d, f.felder);
+    MenueUmgebung::felder(d, f.felder);
   }
 }
 
@@ -103,15 +103,15 @@ struct Ungueltig {
 TEST_F(BogenElementeTest, InvalidValuesKeepTheFieldsAndSayWhy) {
   // With the program's Pi the cosine of a half or full circle is exactly -1 or 1.
   const Ungueltig faelle[] = {
-      {false, nullptr, BogenUmgebung::kGon, "200", "100"},   {false, nullptr, BogenUmgebung::kGon, "400", "100"},
-      {false, nullptr, BogenUmgebung::kGon, "0", "100"},     {false, nullptr, BogenUmgebung::kGon, "50", ""},
-      {false, "OptionTangente", BogenUmgebung::kGon, "50", "0"}, {false, nullptr, BogenUmgebung::kGrad, "180", "5"},
-      {false, nullptr, 1, "3.141592654", "5"},               {true, nullptr, BogenUmgebung::kGon, "", "50"},
-      {true, nullptr, BogenUmgebung::kGon, "80", "0"},
+      {false, nullptr, kGon, "200", "100"},   {false, nullptr, kGon, "400", "100"},
+      {false, nullptr, kGon, "0", "100"},     {false, nullptr, kGon, "50", ""},
+      {false, "OptionTangente", kGon, "50", "0"}, {false, nullptr, kGrad, "180", "5"},
+      {false, nullptr, 1, "3.141592654", "5"},               {true, nullptr, kGon, "", "50"},
+      {true, nullptr, kGon, "80", "0"},
   };
   for (const Ungueltig& f : faelle) {
     SCOPED_TRACE(std::string(f.p0) + " / " + f.p1);
-    BogenUmgebung v;
+    MenueUmgebung v;
     v.zustand.WinkelFaktor = f.faktor;
     RechenDialog& d = f.sehne ? v.oeffnen("MnuKreisBogenSehne", "BogenElementeS")
                               : v.oeffnen("MnuKreisBogenWinkel", "BogenElementeW");
@@ -119,14 +119,14 @@ TEST_F(BogenElementeTest, InvalidValuesKeepTheFieldsAndSayWhy) {
     rechnen(d, "1", "5");
     const std::string vorher = d.control("Erg", 1).captionText();
     rechnen(d, f.p0, f.p1);
-    v.meldung(d, "Ungültige Parameter!");
+    v.meldung("Ungültige Parameter!");
     EXPECT_EQ(d.control("Erg", 1).captionText(), vorher) << "the fields stay";
   }
 }
 
 // ---- from the start and end point
 
-struct BUmgebung : BogenUmgebung {
+struct BUmgebung : MenueUmgebung {
   // BA (100, 200), BE (160, 280): the chord is 100 long.
   BUmgebung() {
     punkt(1, 100, 200, 7);
@@ -167,17 +167,17 @@ struct BFall {
 
 TEST_F(BogenElementeBTest, TheSignChoosesTheSideOfCentreAndVertex) {
   const BFall faelle[] = {
-      {"-80", false, BogenUmgebung::kGon, {"80.000", "64.051262", "85.960417"},
+      {"-80", false, kGon, {"80.000", "64.051262", "85.960417"},
        {80.040016013, 277.469987990}, {162.025630761, 215.980776929}},
-      {"70", true, BogenUmgebung::kGrad,
+      {"70", true, kGrad,
        {"71.443451", "70.000", "88.830617", "110.765", "100.000", "50.000", "20.412", "28.577", "29.167"},
        {170.824829046, 209.381378215}, {90.808164115, 269.393876913}},
-      {"-70", true, BogenUmgebung::kGrad, {"71.443451", "70.000", "88.830617"},
+      {"-70", true, kGrad, {"71.443451", "70.000", "88.830617"},
        {89.175170954, 270.618621785}, {169.191835885, 210.606123087}},
       // A half circle: the centre in the middle of the chord. The tangent of
       // half the program's Pi is negative: its circles miss, and the vertex
       // stays on BA, where the search for a left turn starts.
-      {"-50", false, BogenUmgebung::kGon, {"50.000", "", "200.000"}, {130, 240}, {100, 200}},
+      {"-50", false, kGon, {"50.000", "", "200.000"}, {130, 240}, {100, 200}},
   };
   for (const BFall& f : faelle) {
     SCOPED_TRACE(f.wert);
@@ -185,8 +185,7 @@ TEST_F(BogenElementeBTest, TheSignChoosesTheSideOfCentreAndVertex) {
     v.zustand.WinkelFaktor = f.faktor;
     RechenDialog& d = v.rechnen(f.wert, f.tangente);
     EXPECT_TRUE(v.meldungen().empty());
-    for (size_t i = 0; i < f.felder.size(); ++i)
-      if (*f.felder[i].c_str()) EXPECT_EQ(d.control("Erg", static_cast<int>(i)).captionText(), f.felder[i]);
+    MenueUmgebung::felder(d, f.felder);
     EXPECT_NEAR(d.Ergebnis(0).A, f.m[0], 1e-6);
     EXPECT_NEAR(d.Ergebnis(0).B, f.m[1], 1e-6);
     EXPECT_NEAR(d.Ergebnis(1).A, f.w[0], 1e-6);
@@ -199,7 +198,7 @@ TEST_F(BogenElementeBTest, AChordLongerThanTheDiameterCannotBeComputed) {
     SCOPED_TRACE(wert);
     BUmgebung v;
     RechenDialog& d = v.rechnen(wert, tangente);
-    v.meldung(d, "Berechnung nicht durchführbar!");
+    v.meldung("Berechnung nicht durchführbar!");
     // The elements are shown before the centre is sought: no angle.
     if (!tangente && std::string(wert) != "0") {
       EXPECT_EQ(d.control("Erg", 2).captionText(), "0.000");

@@ -1,12 +1,12 @@
 // The area of a circular segment from a typed chord or from the arc's start
 // and end point; worked values from data/werte.py.
-#include "bogen_umgebung.h"
+#include "calc/frame/menue_umgebung.h"
 
 namespace kolm::calc::testing {
 namespace {
 
 struct FlaecheBogenTest : ::testing::Test {
-  BogenUmgebung u;
+  MenueUmgebung u;
   RechenDialog& s() { return u.oeffnen("MnuKreisFlächeS", "FlächeBogenS"); }
   RechenDialog& b() { return u.oeffnen("MnuKreisFlächeBABE", "FlächeBogenB"); }
   static void rechnen(RechenDialog& d, const std::string& sehne, const std::string& wert) {
@@ -48,18 +48,17 @@ TEST_F(FlaecheBogenTest, RadiusOrSegmentHeightGiveTheSegment) {
   };
   for (const Fall& f : faelle) {
     SCOPED_TRACE(f.name);
-    BogenUmgebung v;
+    MenueUmgebung v;
     RechenDialog& d = v.oeffnen("MnuKreisFlächeS", "FlächeBogenS");
     if (f.segment) d.control("OptionSegment").click();
     rechnen(d, f.sehne, f.wert);
     EXPECT_TRUE(v.meldungen().empty());
-    for (size_t i = 0; i < f.felder.size(); ++i)
-      if (!f.felder[i].empty()) EXPECT_EQ(d.control("Erg", static_cast<int>(i)).captionText(), f.felder[i]) << i;
+    MenueUmgebung::felder(d, f.felder);
   }
   // The tangent of half the program's Pi is large and negative.
   RechenDialog& d = s();
   rechnen(d, "80", "40");
-  EXPECT_NEAR(BogenUmgebung::zahl(d.control("Erg", 1)), -195023556112.861664, 1e-3);
+  EXPECT_NEAR(MenueUmgebung::zahl(d.control("Erg", 1)), -195023556112.861664, 1e-3);
 }
 
 TEST_F(FlaecheBogenTest, ARadiusBelowHalfTheChordIsTooSmall) {
@@ -67,13 +66,13 @@ TEST_F(FlaecheBogenTest, ARadiusBelowHalfTheChordIsTooSmall) {
   rechnen(d, "80", "50");
   for (const char* radius : {"39.999", ""}) {
     rechnen(d, "80", radius);
-    u.meldung(d, "Radius ist zu klein!");
+    u.meldung("Radius ist zu klein!");
     EXPECT_EQ(d.control("Erg", 6).captionText(), "1118.238") << "the fields stay";
   }
 }
 
 TEST_F(FlaecheBogenTest, MitBATakesTheChordFromThePointsInAltgrad) {
-  u.zustand.WinkelFaktor = BogenUmgebung::kGrad;
+  u.zustand.WinkelFaktor = kGrad;
   u.punkt(1, 100, 200);
   u.punkt(2, 160, 280);
   RechenDialog& d = b();
@@ -83,10 +82,10 @@ TEST_F(FlaecheBogenTest, MitBATakesTheChordFromThePointsInAltgrad) {
   d.control("Param", 0).setText("60");
   d.control("Berechnen").click();
   EXPECT_TRUE(u.meldungen().empty());
-  BogenUmgebung::felder(d, {"60.000", "90.453403", "112.88538", "118.213", "100.000", "26.834", "1888.086"});
+  MenueUmgebung::felder(d, {"60.000", "90.453403", "112.88538", "118.213", "100.000", "26.834", "1888.086"});
   d.control("Param", 0).setText("49");
   d.control("Berechnen").click();
-  u.meldung(d, "Radius ist zu klein!");
+  u.meldung("Radius ist zu klein!");
 }
 
 TEST_F(FlaecheBogenTest, MitBAInAPolarTableKeepsItsInputs) {
@@ -100,7 +99,7 @@ TEST_F(FlaecheBogenTest, MitBAInAPolarTableKeepsItsInputs) {
   d.control("Param", 0).setText("26.8337");
   d.control("Berechnen").click();
   EXPECT_EQ(d.control("Erg", 4).captionText(), "100.000");
-  EXPECT_NEAR(BogenUmgebung::zahl(d.control("Erg", 0)), 60, 1e-3);
+  EXPECT_NEAR(MenueUmgebung::zahl(d.control("Erg", 0)), 60, 1e-3);
   EXPECT_NEAR(d.Eingabe(0).A, u.zustand.Punkte[1].A, 1e-9);
   EXPECT_NEAR(d.Eingabe(0).B, u.zustand.Punkte[1].B, 1e-7);
 }

@@ -85,10 +85,7 @@ TEST_F(EiWendelinieTest, UnreasonableParametersGiveTheLinesMessageAndKeepTheResu
     rechnen(d, "150", "90", "3");
     const Texte vorher = ergebnis(d);
     rechnen(d, f.r1, f.r2, f.abstand);
-    ASSERT_EQ(v.meldungen().size(), 1u);
-    EXPECT_EQ(v.meldungen()[0].message.text, f.wendelinie ? kWendeFehler : kEiFehler);
-    EXPECT_EQ(v.meldungen()[0].message.title, f.wendelinie ? "Wendelinie berechnen" : "Eilinie berechnen");
-    EXPECT_EQ(v.meldungen()[0].message.icon, forms::Icon::Exclamation);
+    v.meldung(f.wendelinie ? kWendeFehler : kEiFehler, f.wendelinie ? "Wendelinie berechnen" : "Eilinie berechnen");
     EXPECT_EQ(ergebnis(d), vorher);
   }
 }

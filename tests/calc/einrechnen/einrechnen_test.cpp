@@ -99,16 +99,12 @@ TEST_F(EinrechnenTest, WithoutADirectionTheMessageAndNoResult) {
   d.control("G1P2Nr").setText("1");
   d.control("Param", 0).setText("10");
   d.control("Berechnen").click();
-  ASSERT_EQ(u.meldungen().size(), 1u);
-  EXPECT_EQ(u.meldungen()[0].message.text, "Kein Einrechnen möglich, da keine Richtung vorhanden ist!");
-  EXPECT_EQ(u.meldungen()[0].message.title, "Polares Einrechnen");
-  EXPECT_EQ(u.meldungen()[0].message.icon, forms::Icon::Exclamation);
+  u.meldung("Kein Einrechnen möglich, da keine Richtung vorhanden ist!", "Polares Einrechnen");
   EXPECT_EQ(d.control("ErgA").captionText(), "");
   EXPECT_EQ(d.control("PktNr").text(), "");
   d.control("OptionFortlaufend").click();
   d.control("Berechnen").click();
-  ASSERT_EQ(u.meldungen().size(), 2u);
-  EXPECT_EQ(u.meldungen()[1].message.title, "Fortlaufendes Einrechnen");
+  u.meldung("Kein Einrechnen möglich, da keine Richtung vorhanden ist!", "Fortlaufendes Einrechnen");
 }
 
 TEST_F(EinrechnenTest, AFailedContinuedRunLeavesAPolarARectangular) {

@@ -138,10 +138,7 @@ TEST_F(KleinpunkteTest, WithoutADirectionTheMessageAndAPolarPStaysRectangular) {
   d.control("G1P2Nr").setText("1");
   d.control("Param", 0).setText("5");
   d.control("Berechnen").click();
-  ASSERT_EQ(u.meldungen().size(), 1u);
-  EXPECT_EQ(u.meldungen()[0].message.text, "Kein Einrechnen möglich, da keine Richtung vorhanden ist!");
-  EXPECT_EQ(u.meldungen()[0].message.title, d.caption());
-  EXPECT_EQ(u.meldungen()[0].message.icon, forms::Icon::Exclamation);
+  u.meldung("Kein Einrechnen möglich, da keine Richtung vorhanden ist!", d.caption());
   EXPECT_EQ(d.control("ErgA").captionText(), "");
   EXPECT_NEAR(d.Eingabe(2).A, 30, 1e-9);
   EXPECT_NEAR(d.Eingabe(2).B, 40, 1e-9);

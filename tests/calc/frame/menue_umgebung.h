@@ -5,6 +5,7 @@
 
 #include <cmath>
 #include <string>
+#include <vector>
 
 #include "calc/frame/umgebung.h"
 #include "calc/verdrahtung.h"
@@ -13,6 +14,7 @@
 namespace kolm::calc::testing {
 
 constexpr double kPi = 3.141592654;
+constexpr double kGon = kPi / 200, kGrad = kPi / 180;
 
 struct MenueUmgebung : Umgebung {
   MenueUmgebung() {
@@ -42,6 +44,12 @@ struct MenueUmgebung : Umgebung {
   }
   static double zahl(const forms::Control& c) { return numbers::ZahlLesen(c.captionText()); }
   static double zahl(const std::string& text) { return numbers::ZahlLesen(text); }
+  // Erg(0), Erg(1), ... show these texts; "" is not checked.
+  static void felder(const forms::Form& d, const std::vector<std::string>& erwartet) {
+    for (size_t i = 0; i < erwartet.size(); ++i)
+      if (!erwartet[i].empty())
+        EXPECT_EQ(d.control("Erg", static_cast<int>(i)).captionText(), erwartet[i]) << "Erg(" << i << ")";
+  }
 };
 
 }  // namespace kolm::calc::testing

@@ -2,6 +2,8 @@
 // A running program without windows for the calculation dialogs' tests, and
 // a small dialog of the family: the point at a given distance from P1
 // toward P2.
+#include <gtest/gtest.h>
+
 #include <cmath>
 #include <memory>
 #include <string>
@@ -85,6 +87,16 @@ struct Umgebung {
   }
 
   std::vector<forms::ShownMessage>& meldungen() { return dienste.messages.shown(); }
+  // The one box shown since the last check, cleared for the next; the
+  // title only where one is given.
+  void meldung(const std::string& text, const std::string& titel = "",
+               forms::Icon icon = forms::Icon::Exclamation) {
+    ASSERT_EQ(meldungen().size(), 1u) << text;
+    EXPECT_EQ(meldungen()[0].message.text, text);
+    if (!titel.empty()) EXPECT_EQ(meldungen()[0].message.title, titel);
+    EXPECT_EQ(meldungen()[0].message.icon, icon);
+    meldungen().clear();
+  }
 };
 
 }  // namespace kolm::calc::testing

@@ -201,10 +201,7 @@ TEST(Geraden, ParallelLinesOrNoDirectionAreNoIntersection) {
     const std::string vorher = d.control("ErgA").captionText();
     f.eingeben(d);
     d.control("Berechnen").click();
-    ASSERT_EQ(u.meldungen().size(), 1u);
-    EXPECT_EQ(u.meldungen()[0].message.text, "Kein Geradenschnitt vorhanden!");
-    EXPECT_EQ(u.meldungen()[0].message.title, f.titel);
-    EXPECT_EQ(u.meldungen()[0].message.icon, forms::Icon::Exclamation);
+    u.meldung("Kein Geradenschnitt vorhanden!", f.titel);
     EXPECT_EQ(d.control("ErgA").captionText(), vorher) << "the fields stay";
   }
 }

@@ -6,13 +6,6 @@ namespace {
 
 struct TaschenrechnerTest : ::testing::Test {
   RechnerUmgebung u;
-  // The text and title of the one box shown so far.
-  void einzigeMeldung(const std::string& text, const std::string& titel) {
-    ASSERT_EQ(u.meldungen().size(), 1u);
-    EXPECT_EQ(u.meldungen()[0].message.text, text);
-    EXPECT_EQ(u.meldungen()[0].message.title, titel);
-    EXPECT_EQ(u.meldungen()[0].message.icon, forms::Icon::Exclamation);
-  }
 };
 
 TEST_F(TaschenrechnerTest, EveryEntryOpensTheOneCalculator) {
@@ -128,7 +121,7 @@ TEST_F(TaschenrechnerTest, FunctionsOfXInEachAngleUnit) {
   EXPECT_TRUE(u.stack().empty());
   EXPECT_TRUE(u.meldungen().empty());
   EXPECT_EQ(u.mit("171", "Funk", 5), "171");
-  einzigeMeldung("Die Fakultät ist nur für Zahlen\nkleiner oder gleich 170 berechenbar!", "Taschenrechner Fehler");
+  u.meldung("Die Fakultät ist nur für Zahlen\nkleiner oder gleich 170 berechenbar!", "Taschenrechner Fehler");
 }
 
 TEST_F(TaschenrechnerTest, PiPushesXAndTakesTheKeysOwnValue) {
@@ -172,7 +165,7 @@ TEST_F(TaschenrechnerTest, RefusedArgumentsLeaveStackAndX) {
     u.text().setText(f.x);
     u.klicke(f.knopf, f.index);
     SCOPED_TRACE(std::string(f.knopf) + std::to_string(f.index));
-    einzigeMeldung(f.text, f.titel);
+    u.meldung(f.text, f.titel);
     EXPECT_EQ(u.anzeige(), f.x);
     EXPECT_EQ(u.stack(), (std::vector<std::string>{"9."}));
   }

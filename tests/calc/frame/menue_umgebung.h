@@ -5,6 +5,7 @@
 
 #include <cmath>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "calc/frame/umgebung.h"
@@ -44,6 +45,21 @@ struct MenueUmgebung : Umgebung {
   }
   static double zahl(const forms::Control& c) { return numbers::ZahlLesen(c.captionText()); }
   static double zahl(const std::string& text) { return numbers::ZahlLesen(text); }
+  // Fills the fields as the user types them: {"PP1Nr", "1"}, {"Param(0)", "25"};
+  // a combo box takes the index of its entry: {"ComboGerade1", "7"}.
+  using Felder = std::vector<std::pair<std::string, std::string>>;
+  static void eintragen(forms::Form& d, const Felder& felder) {
+    for (const auto& [name, text] : felder) {
+      const size_t klammer = name.find('(');
+      forms::Control& c = klammer == std::string::npos
+                              ? d.control(name)
+                              : d.control(name.substr(0, klammer), std::stoi(name.substr(klammer + 1)));
+      if (name.rfind("Combo", 0) == 0)
+        c.setListIndex(std::stoi(text));
+      else
+        c.setText(text);
+    }
+  }
   // Erg(0), Erg(1), ... show these texts; "" is not checked.
   static void felder(const forms::Form& d, const std::vector<std::string>& erwartet) {
     for (size_t i = 0; i < erwartet.size(); ++i)

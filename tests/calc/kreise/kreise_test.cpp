@@ -7,7 +7,6 @@
 // their titles are covered end to end by the rechnen_kreis*, rechnen_umkreis
 // and rechnen_kreise_* macros.
 #include <array>
-#include <functional>
 #include <map>
 
 #include "calc/frame/menue_umgebung.h"
@@ -27,7 +26,7 @@ struct Fall {
   const char* name;
   Dialog dialog;
   std::vector<std::array<double, 3>> punkte;  // points 1, 2, ... with heights
-  std::function<void(RechenDialog&)> eingeben;
+  MenueUmgebung::Felder eingeben;
   std::vector<double> ergebnis;  // a, b of each result point
 };
 
@@ -40,33 +39,19 @@ TEST(Kreise, EachDialogGivesItsWorkedPointsInItsOrderWithoutTheHeights) {
   const Fall faelle[] = {
       // The larger circle second: still the point left of it first.
       {"two circles, swapped", kKreisKreis, {{140, 230, 7}, {100, 200, 9}},
-       [](RechenDialog& d) {
-         nummern(d, {"PP1Nr", "PP2Nr"});
-         d.control("Param", 0).setText("25");
-         d.control("Param", 1).setText("30");
-       },
+       {{"PP1Nr", "1"}, {"PP2Nr", "2"}, {"Param(0)", "25"}, {"Param(1)", "30"}},
        {115.360592131, 225.769210492, 129.039407869, 207.530789508}},
       {"touching circles", kKreisKreis, {{0, 0, 0}, {10, 0, 0}},
-       [](RechenDialog& d) {
-         nummern(d, {"PP1Nr", "PP2Nr"});
-         d.control("Param", 0).setText("6");
-         d.control("Param", 1).setText("4");
-       },
+       {{"PP1Nr", "1"}, {"PP2Nr", "2"}, {"Param(0)", "6"}, {"Param(1)", "4"}},
        {6, 0, 6, 0}},
       {"line through the centre", kGeradeKreis, {{10, 10, 3}, {4, 2, 4}, {16, 18, 5}},
-       [](RechenDialog& d) {
-         nummern(d, {"PP1Nr", "G1P1Nr", "G1P2Nr"});
-         d.control("Param", 0).setText("5");
-       },
+       {{"PP1Nr", "1"}, {"G1P1Nr", "2"}, {"G1P2Nr", "3"}, {"Param(0)", "5"}},
        {13, 14, 7, 6}},
       {"tangents", kTangenten, {{10, 20, 3}, {40, 60, 4}},
-       [](RechenDialog& d) {
-         nummern(d, {"PP1Nr", "PP2Nr"});
-         d.control("Param", 0).setText("5");
-       },
+       {{"PP1Nr", "1"}, {"PP2Nr", "2"}, {"Param(0)", "5"}},
        {14.279949748, 17.415037689, 6.320050252, 23.384962311}},
       {"circumcircle", kUmkreis, {{2, 1, 1}, {9, 4, 1}, {3, 8, 1}},
-       [](RechenDialog& d) { nummern(d, {"PP1Nr", "PP2Nr", "PP3Nr"}); }, {4.782608696, 4.173913043}},
+       {{"PP1Nr", "1"}, {"PP2Nr", "2"}, {"PP3Nr", "3"}}, {4.782608696, 4.173913043}},
   };
   for (const Fall& f : faelle) {
     SCOPED_TRACE(f.name);
@@ -74,7 +59,7 @@ TEST(Kreise, EachDialogGivesItsWorkedPointsInItsOrderWithoutTheHeights) {
     for (size_t i = 0; i < f.punkte.size(); ++i)
       u.punkt(static_cast<int>(i) + 1, f.punkte[i][0], f.punkte[i][1], f.punkte[i][2]);
     RechenDialog& d = u.oeffnen(f.dialog.menue, f.dialog.form);
-    f.eingeben(d);
+    MenueUmgebung::eintragen(d, f.eingeben);
     d.control("Berechnen").click();
     EXPECT_TRUE(u.meldungen().empty());
     for (size_t i = 0; i < f.ergebnis.size() / 2; ++i) {
@@ -113,39 +98,17 @@ TEST(Kreise, TheLengthsBesideThePointsAreShown) {
 TEST(Kreise, NoSolutionSaysSoAndKeepsOrClearsTheResults) {
   const Fall faelle[] = {
       {"one circle inside the other", kKreisKreis, {{0, 0, 0}, {1, 0, 0}},
-       [](RechenDialog& d) {
-         nummern(d, {"PP1Nr", "PP2Nr"});
-         d.control("Param", 0).setText("10");
-         d.control("Param", 1).setText("2");
-       }},
+       {{"PP1Nr", "1"}, {"PP2Nr", "2"}, {"Param(0)", "10"}, {"Param(1)", "2"}}},
       {"line 5 from a circle of 4.9", kGeradeKreis, {{50, 50, 0}, {30, 45, 0}},
-       [](RechenDialog& d) {
-         d.control("PP1Nr").setText("1");
-         d.control("Param", 0).setText("4.9");
-         d.control("ComboGerade1").setListIndex(7);
-         d.control("G1P1Nr").setText("2");
-       }},
+       {{"PP1Nr", "1"}, {"Param(0)", "4.9"}, {"ComboGerade1", "7"}, {"G1P1Nr", "2"}}},
       {"line with the ratio 0 to 0", kGeradeKreis, {{50, 50, 0}, {30, 45, 0}},
-       [](RechenDialog& d) {
-         d.control("PP1Nr").setText("1");
-         d.control("Param", 0).setText("13");
-         d.control("ComboGerade1").setListIndex(1);
-         d.control("G1P1Nr").setText("2");
-         d.control("TextG1_1").setText("0");
-         d.control("TextG1_2").setText("0");
-       }},
+       {{"PP1Nr", "1"}, {"Param(0)", "13"}, {"ComboGerade1", "1"}, {"G1P1Nr", "2"}, {"TextG1_1", "0"}, {"TextG1_2", "0"}}},
       {"point on the circle", kTangenten, {{10, 20, 0}, {13, 24, 0}},
-       [](RechenDialog& d) {
-         nummern(d, {"PP1Nr", "PP2Nr"});
-         d.control("Param", 0).setText("5");
-       }},
+       {{"PP1Nr", "1"}, {"PP2Nr", "2"}, {"Param(0)", "5"}}},
       {"point inside the circle", kTangenten, {{10, 20, 0}, {11, 21, 0}},
-       [](RechenDialog& d) {
-         nummern(d, {"PP1Nr", "PP2Nr"});
-         d.control("Param", 0).setText("5");
-       }},
+       {{"PP1Nr", "1"}, {"PP2Nr", "2"}, {"Param(0)", "5"}}},
       {"collinear points", kUmkreis, {{0, 0, 0}, {1, 1, 0}, {3, 3, 0}},
-       [](RechenDialog& d) { nummern(d, {"PP1Nr", "PP2Nr", "PP3Nr"}); }},
+       {{"PP1Nr", "1"}, {"PP2Nr", "2"}, {"PP3Nr", "3"}}},
   };
   const std::map<std::string, std::string> texte = {{kKreisKreis.form, "Kein Kreisschnitt vorhanden!"},
                                                     {kGeradeKreis.form, "Kein Kreis-Geradenschnitt vorhanden!"},
@@ -157,7 +120,7 @@ TEST(Kreise, NoSolutionSaysSoAndKeepsOrClearsTheResults) {
     for (size_t i = 0; i < f.punkte.size(); ++i)
       u.punkt(static_cast<int>(i) + 1, f.punkte[i][0], f.punkte[i][1], f.punkte[i][2]);
     RechenDialog& d = u.oeffnen(f.dialog.menue, f.dialog.form);
-    f.eingeben(d);
+    MenueUmgebung::eintragen(d, f.eingeben);
     d.control("Berechnen").click();
     u.meldung(texte.at(f.dialog.form));
     const int erster = std::string(f.dialog.form) == kUmkreis.form ? -1 : 0;

@@ -54,7 +54,7 @@ struct Fall {
   Dialog dialog;
   double pa, pb;  // P
   bool m31;
-  std::function<void(RechenDialog&)> eingeben;
+  MenueUmgebung::Felder eingeben;
   double a, b;
   std::function<void(RechenDialog&)> pruefen;
 };
@@ -62,50 +62,29 @@ struct Fall {
 TEST(Geraden, EachWayOfGivingTheLinesMeetsTheWorkedPoint) {
   const auto keine = [](RechenDialog&) {};
   const Fall faelle[] = {
-      {"two lines of two points", kVier, 30, 70, false, keine, 37.5, 33.75,
+      {"two lines of two points", kVier, 30, 70, false, {}, 37.5, 33.75,
        [](RechenDialog& d) {
          EXPECT_EQ(d.control("ErgA").captionText(), "37.500");
          EXPECT_EQ(d.control("PktNr").text(), "6");
        }},
       {"a percentage and a slope with offset", kVier, 30, 70, false,
-       [](RechenDialog& d) {
-         d.control("ComboGerade1").setListIndex(2);  // 50 % is 20 per 40
-         d.control("TextG1_1").setText("50");
-         d.control("ComboGerade2").setListIndex(8);
-         d.control("TextG2_1").setText("-1.5");
-         d.control("TextG2_2").setText("90");
-         d.Eingabe(2).A = 999;  // overwritten: the line starts at (0, d)
-       },
+       {{"ComboGerade1", "2"}, {"TextG1_1", "50"}, {"ComboGerade2", "8"}, {"TextG2_1", "-1.5"}, {"TextG2_2", "90"}},
        37.5, 33.75,
        [](RechenDialog& d) {
-         EXPECT_EQ(d.Eingabe(2).A, 0);
+         EXPECT_EQ(d.Eingabe(2).A, 0) << "P3 (20, 60) is overwritten: the line starts at (0, d)";
          EXPECT_EQ(d.Eingabe(2).B, 90);
          EXPECT_EQ(d.Eingabe(1).A, 110) << "the constructed point stays in its record";
        }},
-      {"an angle from the system's axis", kVier, 30, 70, false,
-       [](RechenDialog& d) {
-         d.control("ComboGerade1").setListIndex(4);
-         d.control("TextG1_1").setText("50");
-       },
+      {"an angle from the system's axis", kVier, 30, 70, false, {{"ComboGerade1", "4"}, {"TextG1_1", "50"}},
        32, 42, keine},
       {"under M31 the angle starts from the other axis", kVier, 30, 70, true,
-       [](RechenDialog& d) {
-         d.control("ComboGerade1").setListIndex(4);
-         d.control("TextG1_1").setText("100");
-       },
+       {{"ComboGerade1", "4"}, {"TextG1_1", "100"}},
        46.666666667, 20, keine},
-      {"the foot of the perpendicular", kLot, 30, 70, false, keine, 46, 38, keine},
-      {"the foot on a vertical through P1", kLot, 30, 70, false,
-       [](RechenDialog& d) { d.control("ComboGerade1").setListIndex(6); }, 10, 70, keine},
-      {"the parallel through P", kParallele, 0, 30, false, keine, 30, 45, keine},
+      {"the foot of the perpendicular", kLot, 30, 70, false, {}, 46, 38, keine},
+      {"the foot on a vertical through P1", kLot, 30, 70, false, {{"ComboGerade1", "6"}}, 10, 70, keine},
+      {"the parallel through P", kParallele, 0, 30, false, {}, 30, 45, keine},
       {"the parallel by vector against a slope", kParallele, 0, 30, false,
-       [](RechenDialog& d) {
-         d.control("ComboGerade1").setListIndex(5);
-         d.control("TextG1_1").setText("2");
-         d.control("TextG1_2").setText("1");
-         d.control("ComboGerade2").setListIndex(3);
-         d.control("TextG2_1").setText("-1.5");
-       },
+       {{"ComboGerade1", "5"}, {"TextG1_1", "2"}, {"TextG1_2", "1"}, {"ComboGerade2", "3"}, {"TextG2_1", "-1.5"}},
        30, 45, keine},
   };
   for (const Fall& f : faelle) {
@@ -114,7 +93,7 @@ TEST(Geraden, EachWayOfGivingTheLinesMeetsTheWorkedPoint) {
     u.zustand.M31 = f.m31 ? core::Wahr : core::Falsch;
     u.geraden(f.pa, f.pb);
     RechenDialog& d = u.oeffnen(f.dialog);
-    f.eingeben(d);
+    MenueUmgebung::eintragen(d, f.eingeben);
     d.control("Berechnen").click();
     EXPECT_TRUE(u.meldungen().empty());
     EXPECT_NEAR(d.Ergebnis().A, f.a, 1e-6);
@@ -159,38 +138,17 @@ TEST(Geraden, ParallelLinesOrNoDirectionAreNoIntersection) {
   struct Kein {
     const char* name;
     Dialog dialog;
-    std::function<void(RechenDialog&)> eingeben;
+    MenueUmgebung::Felder eingeben;
     const char* titel;
   };
   const Kein faelle[] = {
-      {"the same line twice", kVier,
-       [](RechenDialog& d) {
-         d.control("G2P1Nr").setText("1");
-         d.control("G2P2Nr").setText("2");
-       },
-       "Geradenschnitt"},
-      {"a point twice", kVier,
-       [](RechenDialog& d) {
-         d.control("G2P1Nr").setText("3");
-         d.control("G2P2Nr").setText("3");
-       },
-       "Geradenschnitt"},
-      {"a line without direction", kLot, [](RechenDialog& d) { d.control("G1P2Nr").setText("1"); },
-       "Rechtwinkeliger Geradenschnitt"},
-      {"the ratio 0 to 0", kLot,
-       [](RechenDialog& d) {
-         d.control("ComboGerade1").setListIndex(1);
-         d.control("TextG1_1").setText("0");
-         d.control("TextG1_2").setText("0");
-       },
+      {"the same line twice", kVier, {{"G2P1Nr", "1"}, {"G2P2Nr", "2"}}, "Geradenschnitt"},
+      {"a point twice", kVier, {{"G2P1Nr", "3"}, {"G2P2Nr", "3"}}, "Geradenschnitt"},
+      {"a line without direction", kLot, {{"G1P2Nr", "1"}}, "Rechtwinkeliger Geradenschnitt"},
+      {"the ratio 0 to 0", kLot, {{"ComboGerade1", "1"}, {"TextG1_1", "0"}, {"TextG1_2", "0"}},
        "Rechtwinkeliger Geradenschnitt"},
       // The parallel dialog's box carries the title of the two-line dialog.
-      {"g2 parallel to g1", kParallele,
-       [](RechenDialog& d) {
-         d.control("G2P1Nr").setText("1");
-         d.control("G2P2Nr").setText("2");
-       },
-       "Geradenschnitt"},
+      {"g2 parallel to g1", kParallele, {{"G2P1Nr", "1"}, {"G2P2Nr", "2"}}, "Geradenschnitt"},
   };
   for (const Kein& f : faelle) {
     SCOPED_TRACE(f.name);
@@ -199,7 +157,7 @@ TEST(Geraden, ParallelLinesOrNoDirectionAreNoIntersection) {
     RechenDialog& d = u.oeffnen(f.dialog);
     d.control("Berechnen").click();
     const std::string vorher = d.control("ErgA").captionText();
-    f.eingeben(d);
+    MenueUmgebung::eintragen(d, f.eingeben);
     d.control("Berechnen").click();
     u.meldung("Kein Geradenschnitt vorhanden!", f.titel);
     EXPECT_EQ(d.control("ErgA").captionText(), vorher) << "the fields stay";

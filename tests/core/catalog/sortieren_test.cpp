@@ -28,48 +28,33 @@ TEST(TabellenSortieren, NamedRowsMoveUpAndTheirOldRowsAreCleared) {
   }
 }
 
-TEST(TabellenSortieren, WithNoLettersTheStationingDecidesThenTheName) {
-  Umgebung u;
-  u.zeile(0) = Zeile("Zeta", 0.5);
-  u.zeile(1) = Zeile("Profil 2", 1.25);
-  u.zeile(2) = Zeile("alpha", 2);
-  u.zeile(4) = Zeile("Profil 10", 1.25);
-  u.zeile(5) = Zeile("Beta", -1);
-  TabellenSortieren(u.z(), 0);
-  EXPECT_EQ(Namen(u.z(), 5), (std::vector<std::string>{"Beta", "Zeta", "Profil 10", "Profil 2", "alpha"}));
-}
-
-TEST(TabellenSortieren, TheFirstLettersCompareWithoutRegardToCase) {
-  Umgebung u;
-  u.zeile(0) = Zeile("ABD 1", 1);
-  u.zeile(1) = Zeile("Abc 1", 9);
-  u.zeile(2) = Zeile("abc 2", 5);
-  u.zeile(3) = Zeile("äbc", 0);
-  u.zeile(4) = Zeile("Äbc", 1);
-  u.zeile(5) = Zeile("ab", 7);
-  TabellenSortieren(u.z(), 3);
-  // "ab" is shorter than three letters and comes first; "äbc" and "Äbc" have
-  // equal letters and go by stationing.
-  EXPECT_EQ(Namen(u.z(), 6), (std::vector<std::string>{"ab", "abc 2", "Abc 1", "ABD 1", "äbc", "Äbc"}));
-}
-
-TEST(TabellenSortieren, TheWholeNameComparesExactlyWhenLettersAndStationingAreEqual) {
-  Umgebung u;
-  u.zeile(0) = Zeile("profil b", 1);
-  u.zeile(1) = Zeile("Profil B", 1);
-  u.zeile(2) = Zeile("Profil a", 1);
-  TabellenSortieren(u.z(), 6);
-  EXPECT_EQ(Namen(u.z(), 3), (std::vector<std::string>{"Profil B", "Profil a", "profil b"}));
-}
-
-TEST(TabellenSortieren, NegativeLetterCountsCountAsNoneAndLargeOnesAsTheWholeName) {
-  Umgebung u;
-  u.zeile(0) = Zeile("B", 1);
-  u.zeile(1) = Zeile("A", 2);
-  TabellenSortieren(u.z(), -5);
-  EXPECT_EQ(Namen(u.z(), 2), (std::vector<std::string>{"B", "A"}));
-  TabellenSortieren(u.z(), 40);
-  EXPECT_EQ(Namen(u.z(), 2), (std::vector<std::string>{"A", "B"}));
+TEST(TabellenSortieren, FirstLettersWithoutRegardToCaseThenStationingThenTheWholeName) {
+  const struct {
+    int buchstaben;
+    std::vector<std::pair<std::string, double>> zeilen;  // name and stationing, row by row
+    std::vector<std::string> sortiert;
+  } faelle[] = {
+      // No letters: the stationing decides, then the name.
+      {0, {{"Zeta", 0.5}, {"Profil 2", 1.25}, {"alpha", 2}, {"Profil 10", 1.25}, {"Beta", -1}},
+       {"Beta", "Zeta", "Profil 10", "Profil 2", "alpha"}},
+      // "ab" is shorter than three letters and comes first; "äbc" and "Äbc"
+      // have equal letters and go by stationing.
+      {3, {{"ABD 1", 1}, {"Abc 1", 9}, {"abc 2", 5}, {"äbc", 0}, {"Äbc", 1}, {"ab", 7}},
+       {"ab", "abc 2", "Abc 1", "ABD 1", "äbc", "Äbc"}},
+      // Equal letters and stationing: the whole name, exactly.
+      {6, {{"profil b", 1}, {"Profil B", 1}, {"Profil a", 1}}, {"Profil B", "Profil a", "profil b"}},
+      // A negative count is none, a large one the whole name.
+      {-5, {{"B", 1}, {"A", 2}}, {"B", "A"}},
+      {40, {{"B", 1}, {"A", 2}}, {"A", "B"}},
+  };
+  for (const auto& f : faelle) {
+    SCOPED_TRACE(f.buchstaben);
+    Umgebung u;
+    for (std::size_t i = 0; i < f.zeilen.size(); ++i)
+      u.zeile(static_cast<int>(i)) = Zeile(f.zeilen[i].first, f.zeilen[i].second);
+    TabellenSortieren(u.z(), f.buchstaben);
+    EXPECT_EQ(Namen(u.z(), static_cast<int>(f.sortiert.size())), f.sortiert);
+  }
 }
 
 TEST(TabellenSortieren, TheActiveTableFollowsItsName) {

@@ -19,9 +19,7 @@ struct AusrundungTest : ::testing::Test {
   // Points 1, 2, 3 are the corner; option is the given value's button.
   RechenDialog& rechnen(const std::string& option, const std::string& wert) {
     RechenDialog& d = oeffnen();
-    d.control("PP1Nr").setText("1");
-    d.control("PP2Nr").setText("2");
-    d.control("PP3Nr").setText("3");
+    MenueUmgebung::eintragen(d, {{"PP1Nr", "1"}, {"PP2Nr", "2"}, {"PP3Nr", "3"}});
     d.control(option).click();
     d.control("Param", 0).setText(wert);
     d.control("Berechnen").click();
@@ -190,9 +188,7 @@ TEST_F(AusrundungTest, APolarTableInDegreesGetsPolarTangentPointsAndItsRecordsBa
       v.punkt(i + 1, std::hypot(ecke[i][0], ecke[i][1]), t / f.faktor);
     }
     RechenDialog& d = v.oeffnen("MnuKreisAusrundung", "Ausrundung");
-    d.control("PP1Nr").setText("1");
-    d.control("PP2Nr").setText("2");
-    d.control("PP3Nr").setText("3");
+    MenueUmgebung::eintragen(d, {{"PP1Nr", "1"}, {"PP2Nr", "2"}, {"PP3Nr", "3"}});
     d.control("OptionRadius").click();
     d.control("Param", 0).setText("30");
     d.control("Berechnen").click();

@@ -77,9 +77,7 @@ TEST_F(FlaecheBogenTest, MitBATakesTheChordFromThePointsInAltgrad) {
   u.punkt(2, 160, 280);
   RechenDialog& d = b();
   EXPECT_EQ(d.control("Label", 0).captionText(), "&R=");
-  d.control("PP1Nr").setText("1");
-  d.control("PP2Nr").setText("2");
-  d.control("Param", 0).setText("60");
+  MenueUmgebung::eintragen(d, {{"PP1Nr", "1"}, {"PP2Nr", "2"}, {"Param(0)", "60"}});
   d.control("Berechnen").click();
   EXPECT_TRUE(u.meldungen().empty());
   MenueUmgebung::felder(d, {"60.000", "90.453403", "112.88538", "118.213", "100.000", "26.834", "1888.086"});

@@ -75,9 +75,7 @@ TEST_F(EinrechnenTest, FortlaufendGoesOnFromTheLastResult) {
   RechenDialog& d = oeffnen();
   d.control("OptionFortlaufend").click();
   d.control("ComboGerade1").setListIndex(3);  // slope k = 2
-  d.control("G1P1Nr").setText("1");
-  d.control("TextG1_1").setText("2");
-  d.control("Param", 0).setText("10");
+  MenueUmgebung::eintragen(d, {{"G1P1Nr", "1"}, {"TextG1_1", "2"}, {"Param(0)", "10"}});
   d.control("Berechnen").click();
   EXPECT_NEAR(d.Ergebnis().A, 14.472136, 1e-6);
   EXPECT_NEAR(d.Ergebnis().B, 28.944272, 1e-6);
@@ -95,9 +93,7 @@ TEST_F(EinrechnenTest, FortlaufendGoesOnFromTheLastResult) {
 TEST_F(EinrechnenTest, WithoutADirectionTheMessageAndNoResult) {
   u.punkt(1, 100, 200);
   RechenDialog& d = oeffnen();
-  d.control("G1P1Nr").setText("1");
-  d.control("G1P2Nr").setText("1");
-  d.control("Param", 0).setText("10");
+  MenueUmgebung::eintragen(d, {{"G1P1Nr", "1"}, {"G1P2Nr", "1"}, {"Param(0)", "10"}});
   d.control("Berechnen").click();
   u.meldung("Kein Einrechnen möglich, da keine Richtung vorhanden ist!", "Polares Einrechnen");
   EXPECT_EQ(d.control("ErgA").captionText(), "");

@@ -17,10 +17,7 @@ struct KleinpunkteTest : ::testing::Test {
     u.punkt(2, 3, 4);
     u.punkt(3, 10, 10, 2);
     RechenDialog& d = oeffnen();
-    d.control("G1P1Nr").setText("1");
-    d.control("G1P2Nr").setText("2");
-    d.control("PP1Nr").setText("3");
-    d.control("Param", 0).setText("5");
+    MenueUmgebung::eintragen(d, {{"G1P1Nr", "1"}, {"G1P2Nr", "2"}, {"PP1Nr", "3"}, {"Param(0)", "5"}});
     return d;
   }
 };
@@ -46,10 +43,7 @@ TEST_F(KleinpunkteTest, TheFourWaysFromPInEachSystem) {
     RechenDialog& d = v.oeffnen("MnuGerKleinPunkte", "Kleinpunkte");
     EXPECT_EQ(d.control("OptionRichtung", 0).value(), 1);
     EXPECT_EQ(d.control("OptionRichtung", f.richtung).captionText(), f.name);
-    d.control("G1P1Nr").setText("1");
-    d.control("G1P2Nr").setText("2");
-    d.control("PP1Nr").setText("3");
-    d.control("Param", 0).setText("5");
+    MenueUmgebung::eintragen(d, {{"G1P1Nr", "1"}, {"G1P2Nr", "2"}, {"PP1Nr", "3"}, {"Param(0)", "5"}});
     d.control("OptionRichtung", f.richtung).click();
     d.control("Berechnen").click();
     EXPECT_TRUE(v.meldungen().empty());
@@ -121,10 +115,7 @@ TEST_F(KleinpunkteTest, AKeyInTheDistanceOrAWayChosenMakesBerechnenTheDefault) {
 TEST_F(KleinpunkteTest, AnAngleOfThreeQuartersOrMoreRunsTowardPositiveA) {
   u.punkt(1, 0, 0);
   RechenDialog& d = oeffnen();
-  d.control("ComboGerade1").setListIndex(4);
-  d.control("G1P1Nr").setText("1");
-  d.control("TextG1_1").setText("380");
-  d.control("Param", 0).setText("10");
+  MenueUmgebung::eintragen(d, {{"ComboGerade1", "4"}, {"G1P1Nr", "1"}, {"TextG1_1", "380"}, {"Param(0)", "10"}});
   d.control("Berechnen").click();
   EXPECT_NEAR(d.Ergebnis().A, 9.510565, 1e-6);
   EXPECT_NEAR(d.Ergebnis().B, -3.090170, 1e-6);
@@ -134,9 +125,7 @@ TEST_F(KleinpunkteTest, WithoutADirectionTheMessageAndAPolarPStaysRectangular) {
   u.zustand.Polar = core::Wahr;
   u.polarPunkt(1, 30, 40);
   RechenDialog& d = oeffnen();
-  d.control("G1P1Nr").setText("1");
-  d.control("G1P2Nr").setText("1");
-  d.control("Param", 0).setText("5");
+  MenueUmgebung::eintragen(d, {{"G1P1Nr", "1"}, {"G1P2Nr", "1"}, {"Param(0)", "5"}});
   d.control("Berechnen").click();
   u.meldung("Kein Einrechnen möglich, da keine Richtung vorhanden ist!", d.caption());
   EXPECT_EQ(d.control("ErgA").captionText(), "");

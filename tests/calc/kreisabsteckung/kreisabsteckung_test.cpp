@@ -64,9 +64,7 @@ TEST(KreisAbsteckB, APolarTableInDegreesGetsPolarResultsAndItsRecordsBack) {
     u.punkt(i + 1, std::hypot(punkte[i][0], punkte[i][1]), t / kGrad);
   }
   RechenDialog& d = u.oeffnen("MnuKreisAbsteckungB", "KreisAbsteckB");
-  d.control("PP1Nr").setText("1");
-  d.control("PP2Nr").setText("2");
-  d.control("Param", 0).setText("25");
+  MenueUmgebung::eintragen(d, {{"PP1Nr", "1"}, {"PP2Nr", "2"}, {"Param(0)", "25"}});
   d.control("Berechnen").click();
   EXPECT_TRUE(u.meldungen().empty());
   EXPECT_NEAR(d.Ergebnis().A, 2275.168376642, 1e-6);

@@ -182,9 +182,7 @@ TEST_F(GeradeKreisTest, TheWaysOfGivingTheLineMeetTheSamePoints) {
     SCOPED_TRACE(f.eintrag);
     u.punkt(1, 50, 50);
     u.punkt(2, 30, 45);
-    d.control("PP1Nr").setText("");
-    d.control("PP1Nr").setText("1");
-    d.control("Param", 0).setText("13");
+    MenueUmgebung::eintragen(d, {{"PP1Nr", ""}, {"PP1Nr", "1"}, {"Param(0)", "13"}});
     d.control("ComboGerade1").setListIndex(f.eintrag);
     d.control("G1P1Nr").setText("");
     d.control("G1P1Nr").setText("2");

@@ -26,30 +26,21 @@ TEST(SchnittGeraden, WorkedIntersections) {
   }
 }
 
-TEST(SchnittGeraden, ParallelOrEmptyDirectionsGiveFalseAndZero) {
-  double sa = 7, sb = 7;
-  EXPECT_FALSE(SchnittGeraden(1, 1, 2, 2, 5, 0, -4, -4, sa, sb));  // parallel
-  EXPECT_EQ(sa, 0);
-  EXPECT_EQ(sb, 0);
-  sa = sb = 7;
-  EXPECT_FALSE(SchnittGeraden(1, 1, 2, 2, 1, 1, 2, 2, sa, sb));  // the same line
-  EXPECT_EQ(sa, 0);
-  sa = sb = 7;
-  EXPECT_FALSE(SchnittGeraden(1, 1, 0, 0, 5, 0, 1, 3, sa, sb));  // no direction
-  EXPECT_EQ(sb, 0);
-}
-
-TEST(SchnittGeraden, NearlyParallelStillIntersects) {
+TEST(SchnittGeraden, ParallelEmptyOrOverflowingGiveFalseAndZero) {
+  struct Fall { const char* was; double p1a, p1b, d1a, d1b, p2a, p2b, d2a, d2b; };
+  for (const Fall& f : {Fall{"parallel", 1, 1, 2, 2, 5, 0, -4, -4}, Fall{"the same line", 1, 1, 2, 2, 1, 1, 2, 2},
+                        Fall{"no direction", 1, 1, 0, 0, 5, 0, 1, 3},
+                        Fall{"an overflowing determinant counts as zero", 0, 0, 1e200, 1, 0, 0, 1, 1e200}}) {
+    double sa = 7, sb = 7;
+    EXPECT_FALSE(SchnittGeraden(f.p1a, f.p1b, f.d1a, f.d1b, f.p2a, f.p2b, f.d2a, f.d2b, sa, sb)) << f.was;
+    EXPECT_EQ(sa, 0) << f.was;
+    EXPECT_EQ(sb, 0) << f.was;
+  }
+  // Nearly parallel still intersects: no tolerance.
   double sa = 0, sb = 0;
-  EXPECT_TRUE(SchnittGeraden(0, 0, 1, 1e-15, 0, 1, 1, 0, sa, sb)) << "no tolerance";
+  EXPECT_TRUE(SchnittGeraden(0, 0, 1, 1e-15, 0, 1, 1, 0, sa, sb));
   EXPECT_TRUE(std::isfinite(sa));
   EXPECT_NEAR(sb, 1, kGenau);
-}
-
-TEST(SchnittGeraden, OverflowingDeterminantCountsAsZero) {
-  double sa = 7, sb = 7;
-  EXPECT_FALSE(SchnittGeraden(0, 0, 1e200, 1, 0, 0, 1, 1e200, sa, sb));
-  EXPECT_EQ(sa, 0);
 }
 
 TEST(SchnittSteigung, SlopesAndTheVerticalAsGross) {

@@ -32,7 +32,11 @@ TEST(DirekterAnschlussRechnen, WorkedStations) {
        {-47.49803140583779, 64.37341848378696, -47.49803135302494, -64.37341860479637}},
       // Beyond a quarter circle the sign of delta is flipped deliberately.
       {0, 0, 0, 150, 100, 0, 120, kAltgrad,
-       {112.4999999763167, -99.21567419177649, 112.4999999763167, 99.21567419177649}}};
+       {112.4999999763167, -99.21567419177649, 112.4999999763167, 99.21567419177649}},
+      // No triangle, e > d / sin|delta|: ArcusSinus gives 0, the sine rule
+      // makes l = d, and circles of 150 and 100 at a distance of 100 still meet.
+      {0, 0, 0, 150, 100, 0, 80, kAltgrad,
+       {112.50000000723308, 99.21567415672061, 112.50000000723308, -99.21567415672061}}};
   for (const Fall& f : faelle) {
     double a1 = f.a1, b1 = f.b1, a2 = f.a2, b2 = f.b2;
     EXPECT_TRUE(DirekterAnschlussRechnen(a1, b1, f.alpha, f.e, a2, b2, f.beta, f.s));
@@ -44,34 +48,18 @@ TEST(DirekterAnschlussRechnen, WorkedStations) {
   }
 }
 
-TEST(DirekterAnschlussRechnen, SameAngleOrSamePointsZeroTheStation) {
-  double a1 = 5, b1 = 6, a2 = 100, b2 = 0;
-  EXPECT_FALSE(DirekterAnschlussRechnen(a1, b1, 20, 50, a2, b2, 20, kNeugrad));
-  EXPECT_EQ(a1, 0);
-  EXPECT_EQ(b1, 0);
-  EXPECT_EQ(a2, 100) << "P2 stays";
-  a1 = 3, b1 = 3, a2 = 3, b2 = 3;
-  EXPECT_FALSE(DirekterAnschlussRechnen(a1, b1, 0, 50, a2, b2, 20, kNeugrad));
-  EXPECT_EQ(a1, 0);
-  EXPECT_EQ(b1, 0);
-}
-
-TEST(DirekterAnschlussRechnen, NoTriangleCarriesOnWithAngleZero) {
-  // e > d / sin|delta|: ArcusSinus gives 0, the sine rule makes l = d, and
-  // circles of 150 and 100 at a distance of 100 still meet.
-  double a1 = 0, b1 = 0, a2 = 100, b2 = 0;
-  EXPECT_TRUE(DirekterAnschlussRechnen(a1, b1, 0, 150, a2, b2, 80, kAltgrad));
-  EXPECT_NEAR(a1, 112.50000000723308, kGenau);
-  EXPECT_NEAR(b1, 99.21567415672061, kGenau);
-  EXPECT_NEAR(a2, 112.50000000723308, kGenau);
-  EXPECT_NEAR(b2, -99.21567415672061, kGenau);
-  // With e = 700 the circles do not meet: false, coordinates as they were.
-  a1 = 0, b1 = 0, a2 = 100, b2 = 0;
-  EXPECT_FALSE(DirekterAnschlussRechnen(a1, b1, 0, 700, a2, b2, 10, kAltgrad));
-  EXPECT_EQ(a1, 0);
-  EXPECT_EQ(b1, 0);
-  EXPECT_EQ(a2, 100);
-  EXPECT_EQ(b2, 0);
+TEST(DirekterAnschlussRechnen, FailuresZeroTheStationAndKeepP2) {
+  struct Fall { const char* was; double a1, b1, alpha, e, a2, b2, beta; Winkelsystem s; };
+  for (const Fall& f : {Fall{"the same angle", 5, 6, 20, 50, 100, 0, 20, kNeugrad},
+                        Fall{"the same points", 3, 3, 0, 50, 3, 3, 20, kNeugrad},
+                        Fall{"circles that do not meet", 0, 0, 0, 700, 100, 0, 10, kAltgrad}}) {
+    double a1 = f.a1, b1 = f.b1, a2 = f.a2, b2 = f.b2;
+    EXPECT_FALSE(DirekterAnschlussRechnen(a1, b1, f.alpha, f.e, a2, b2, f.beta, f.s)) << f.was;
+    EXPECT_EQ(a1, 0) << f.was;
+    EXPECT_EQ(b1, 0) << f.was;
+    EXPECT_EQ(a2, f.a2) << f.was;
+    EXPECT_EQ(b2, f.b2) << f.was;
+  }
 }
 
 TEST(IndirekterAnschlussRechnen, WorkedStation) {

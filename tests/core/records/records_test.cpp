@@ -15,22 +15,18 @@ TEST(FesterText, AFreshFixedTextHoldsNulCharactersAndIsBlank) {
   EXPECT_EQ(lv, LVNummer::Nul());
 }
 
-TEST(FesterText, RightAlignedNumbersFillWithBlanksOnTheLeft) {
-  EXPECT_EQ(LVNummer::Rechts("1.2.3").Text(), "       1.2.3");
-  EXPECT_EQ(LVNummer::Rechts("123456789012345").Text(), "123456789012") << "cut to the first twelve";
-  EXPECT_EQ(LVNummer::Rechts("").Text(), std::string(12, ' '));
-}
-
-TEST(FesterText, AssigningALeftJustifiesAndCuts) {
-  EXPECT_EQ(LVNummer::Links("12").Text(), "12          ");
-  EXPECT_EQ(FesterText<3>::Links("jpeg").Text(), "jpe");
-  EXPECT_EQ(FesterText<3>::Links("").Text(), "   ");
-}
-
-TEST(FesterText, AnUmlautIsOneCharacter) {
-  const auto t = LVNummer::Rechts("Ü1ä");
-  EXPECT_EQ(t.Text(), "         Ü1ä");
-  EXPECT_EQ(FesterText<3>::Links("äöüß").Text(), "äöü");
+TEST(FesterText, NumbersAlignRightTextsLeftCutToTheirCharactersNotBytes) {
+  const std::pair<std::string, std::string> faelle[] = {
+      {LVNummer::Rechts("1.2.3").Text(), "       1.2.3"},
+      {LVNummer::Rechts("123456789012345").Text(), "123456789012"},  // the first twelve
+      {LVNummer::Rechts("").Text(), std::string(12, ' ')},
+      {LVNummer::Links("12").Text(), "12          "},
+      {FesterText<3>::Links("jpeg").Text(), "jpe"},
+      {FesterText<3>::Links("").Text(), "   "},
+      {LVNummer::Rechts("Ü1ä").Text(), "         Ü1ä"},  // an umlaut is one character
+      {FesterText<3>::Links("äöüß").Text(), "äöü"},
+  };
+  for (const auto& [text, erwartet] : faelle) EXPECT_EQ(text, erwartet);
 }
 
 TEST(FesterText, BlankMeansAllBlanksOrAllNul) {

@@ -37,9 +37,7 @@ TEST_F(AbsteckLaufTest, TheRunFillsTheTargetsAndKeepsTheirOtherFields) {
   u.punkt(31, 1, 1, 44.5);
   u.zustand.Punkte[31].KurzBez = 12;
   RechenDialog& d = u.lauf("10", "20", "5", "30");
-  ASSERT_EQ(u.meldungen().size(), 1u);
-  EXPECT_EQ(meldung(0).text, kErfolg);
-  EXPECT_EQ(meldung(0).icon, forms::Icon::Information);
+  u.meldung(kErfolg, "", forms::Icon::Information);
   erwarte(30, 50, 59.033447052);
   erwarte(31, 130, 125.133183259);
   erwarte(32, 141.421356237, 250.000000020);
@@ -75,10 +73,7 @@ TEST_F(AbsteckLaufTest, EachCheckInItsOrderNamesTheFieldToCorrect) {
     v.punkt(30, 5, 6);
     RechenDialog& d = v.lauf("10", f.p, f.anz, f.s);
     SCOPED_TRACE(std::string(f.anz) + " " + f.p + " " + f.s);
-    ASSERT_EQ(v.meldungen().size(), 1u);
-    EXPECT_EQ(v.meldungen()[0].message.text, f.text);
-    EXPECT_EQ(v.meldungen()[0].message.title, "Kolm");
-    EXPECT_EQ(v.meldungen()[0].message.icon, forms::Icon::Critical);
+    v.meldung(f.text, "Kolm", forms::Icon::Critical);
     EXPECT_EQ(d.activeControl(), &d.control(f.feld));
     EXPECT_EQ(v.p(30).A, 5) << "nothing is written";
   }
@@ -139,9 +134,7 @@ TEST_F(AbsteckLaufTest, ANumberBeyondTheRangeStopsTheRunWithTheErrorBox) {
   quellen();
   u.punkt(22, 1e200, 0);
   u.lauf("10", "20", "5", "30");
-  ASSERT_EQ(u.meldungen().size(), 1u);
-  EXPECT_EQ(meldung(0).text, "Fehler 6:  Overflow\nBeim Berechnen der Absteckdaten trat folgender Fehler auf:");
-  EXPECT_EQ(meldung(0).icon, forms::Icon::None);
+  u.meldung("Fehler 6:  Overflow\nBeim Berechnen der Absteckdaten trat folgender Fehler auf:", "", forms::Icon::None);
   // Sources before targets: the run goes backward, from 24 down to the failing 22.
   erwarte(34, 250, 359.033447066);
   erwarte(33, 2236.067977500, 270.483276487);
@@ -156,8 +149,7 @@ TEST_F(AbsteckLaufTest, AThousandsLongRunReportsItsProgressAndEnds) {
   u.tippen("0", "-1000");
   u.oeffnen().control("GetPP1").click();
   u.lauf("", "1", "4999", "5001");  // up to the last point of the table
-  ASSERT_EQ(u.meldungen().size(), 1u);
-  EXPECT_EQ(meldung(0).text, kErfolg);
+  u.meldung(kErfolg, "", forms::Icon::Information);
   erwarte(5001, 1002.000499002, 89.942818591);
   erwarte(7500, 6500, 67.380135043);
   erwarte(9999, 12080.811437979, 65.556437720);

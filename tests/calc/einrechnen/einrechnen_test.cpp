@@ -1,8 +1,12 @@
 // Einrechnen: the point at distance e along the line from A, in mode
-// Fortlaufend the start of the next step. Expected values: data/werte.py.
+// Fortlaufend the start of the next step; Kleinpunkte: from P a distance
+// along the line A-E, against it, to its left or right, each result the
+// next P. Expected values: data/werte.py. Captions, storing, M31 values and
+// a polar table are covered end to end by the rechnen_einrechnen* macros.
 #include <string>
 
 #include "calc/frame/menue_umgebung.h"
+#include "forms/keys.h"
 #include "points/koordinaten.h"
 
 namespace kolm::calc::testing {
@@ -115,6 +119,132 @@ TEST_F(EinrechnenTest, AFailedContinuedRunLeavesAPolarARectangular) {
   EXPECT_NEAR(d.Eingabe(0).A, 30, 1e-9);
   EXPECT_NEAR(d.Eingabe(0).B, 40, 1e-9);
   EXPECT_NEAR(d.Eingabe(1).A, 50, 1e-9) << "E goes back";
+}
+
+struct KleinpunkteTest : ::testing::Test {
+  MenueUmgebung u;
+  RechenDialog& oeffnen() { return u.oeffnen("MnuGerKleinPunkte", "Kleinpunkte"); }
+  // The line from point 1 (0, 0) to point 2 (3, 4), P = point 3 (10, 10).
+  RechenDialog& gefuellt() {
+    u.punkt(1, 0, 0);
+    u.punkt(2, 3, 4);
+    u.punkt(3, 10, 10, 2);
+    RechenDialog& d = oeffnen();
+    MenueUmgebung::eintragen(d, {{"G1P1Nr", "1"}, {"G1P2Nr", "2"}, {"PP1Nr", "3"}, {"Param(0)", "5"}});
+    return d;
+  }
+};
+
+TEST_F(KleinpunkteTest, TheFourWaysFromPInEachSystem) {
+  struct Fall {
+    int richtung;
+    bool m31;
+    const char* name;
+    double a, b;
+  };
+  const Fall faelle[] = {{0, false, "&vorwärts", 13, 14}, {1, false, "&zurück", 7, 6}, {2, false, "&links", 6, 13},
+                         {3, false, "&rechts", 14, 7},
+                         // left on the plane as drawn
+                         {2, true, "&links", 6, 13}};
+  for (const Fall& f : faelle) {
+    SCOPED_TRACE(f.name);
+    MenueUmgebung v;
+    v.zustand.M31 = f.m31 ? core::Wahr : core::Falsch;
+    v.punkt(1, 0, 0);
+    v.punkt(2, 3, 4);
+    v.punkt(3, 10, 10);
+    RechenDialog& d = v.oeffnen("MnuGerKleinPunkte", "Kleinpunkte");
+    EXPECT_EQ(d.control("OptionRichtung", 0).value(), 1);
+    EXPECT_EQ(d.control("OptionRichtung", f.richtung).captionText(), f.name);
+    MenueUmgebung::eintragen(d, {{"G1P1Nr", "1"}, {"G1P2Nr", "2"}, {"PP1Nr", "3"}, {"Param(0)", "5"}});
+    d.control("OptionRichtung", f.richtung).click();
+    d.control("Berechnen").click();
+    EXPECT_TRUE(v.meldungen().empty());
+    EXPECT_NEAR(d.Ergebnis().A, f.a, 1e-6);
+    EXPECT_NEAR(d.Ergebnis().B, f.b, 1e-6);
+  }
+}
+
+TEST_F(KleinpunkteTest, EachResultIsTheNextStart) {
+  RechenDialog& d = gefuellt();
+  d.control("Berechnen").click();
+  EXPECT_EQ(d.control("ErgA").captionText(), "13.000");
+  EXPECT_EQ(d.Ergebnis().C, 0) << "P's height is not taken over";
+  EXPECT_EQ(d.control("PP1Nr").text(), "");
+  EXPECT_EQ(d.Eingabe(2).Nummer, -1);
+  EXPECT_NE(d.control("PP1").captionText().find("13.000"), std::string::npos);
+  d.control("OptionRichtung", 2).click();
+  d.control("Berechnen").click();
+  EXPECT_NEAR(d.Ergebnis().A, 9, 1e-6);
+  EXPECT_NEAR(d.Ergebnis().B, 17, 1e-6);
+}
+
+TEST_F(KleinpunkteTest, ANumberForAIsAlsoP) {
+  u.punkt(1, 0, 0);
+  u.punkt(3, 10, 10);
+  RechenDialog& d = oeffnen();
+  d.control("PP1Nr").setText("3");
+  d.control("G1P1Nr").setText("1");
+  EXPECT_EQ(d.control("PP1Nr").text(), "1");
+  EXPECT_EQ(d.Eingabe(2).A, 0);
+  EXPECT_EQ(d.Eingabe(2).Nummer, 1);
+}
+
+TEST_F(KleinpunkteTest, AByHandIsCopiedToP) {
+  u.punkt(2, 3, 4);
+  RechenDialog& d = oeffnen();
+  u.host.onModal([](forms::Form& f) {
+    f.control("TextA").setText("20");
+    f.control("TextB").setText("30");
+    f.control("OK").click();
+  });
+  d.control("GetG1P1").click();
+  EXPECT_EQ(d.Eingabe(2).A, 20);
+  EXPECT_EQ(d.Eingabe(2).B, 30);
+  EXPECT_EQ(d.control("PP1").captionText(), d.control("G1P1").captionText());
+  EXPECT_EQ(d.control("PP1Nr").text(), "");
+  d.control("G1P2Nr").setText("2");
+  d.control("Param", 0).setText("-10");
+  d.control("Berechnen").click();
+  // From A = P = (20, 30) ten against the way to E = (3, 4): away from E
+  EXPECT_NEAR(d.Ergebnis().A, 25.472494, 1e-6);
+  EXPECT_NEAR(d.Ergebnis().B, 38.369696, 1e-6);
+}
+
+TEST_F(KleinpunkteTest, AKeyInTheDistanceOrAWayChosenMakesBerechnenTheDefault) {
+  RechenDialog& d = gefuellt();
+  d.control("Berechnen").click();
+  d.control("PktNr").setText("11");
+  ASSERT_TRUE(d.control("Speichern").isDefault());
+  forms::Control& feld = d.control("Param", 0);
+  d.sendKey(feld, forms::keys::KeyCodeOfChar('7'), 0, U'7');
+  EXPECT_TRUE(d.control("Berechnen").isDefault());
+  d.control("PktNr").setText("12");
+  ASSERT_TRUE(d.control("Speichern").isDefault());
+  d.control("OptionRichtung", 3).click();
+  EXPECT_TRUE(d.control("Berechnen").isDefault());
+}
+
+TEST_F(KleinpunkteTest, AnAngleOfThreeQuartersOrMoreRunsTowardPositiveA) {
+  u.punkt(1, 0, 0);
+  RechenDialog& d = oeffnen();
+  MenueUmgebung::eintragen(d, {{"ComboGerade1", "4"}, {"G1P1Nr", "1"}, {"TextG1_1", "380"}, {"Param(0)", "10"}});
+  d.control("Berechnen").click();
+  EXPECT_NEAR(d.Ergebnis().A, 9.510565, 1e-6);
+  EXPECT_NEAR(d.Ergebnis().B, -3.090170, 1e-6);
+}
+
+TEST_F(KleinpunkteTest, WithoutADirectionTheMessageAndAPolarPStaysRectangular) {
+  u.zustand.Polar = core::Wahr;
+  u.polarPunkt(1, 30, 40);
+  RechenDialog& d = oeffnen();
+  MenueUmgebung::eintragen(d, {{"G1P1Nr", "1"}, {"G1P2Nr", "1"}, {"Param(0)", "5"}});
+  d.control("Berechnen").click();
+  u.meldung("Kein Einrechnen möglich, da keine Richtung vorhanden ist!", d.caption());
+  EXPECT_EQ(d.control("ErgA").captionText(), "");
+  EXPECT_NEAR(d.Eingabe(2).A, 30, 1e-9);
+  EXPECT_NEAR(d.Eingabe(2).B, 40, 1e-9);
+  EXPECT_NEAR(d.Eingabe(0).A, 50, 1e-9) << "A goes back";
 }
 
 }  // namespace

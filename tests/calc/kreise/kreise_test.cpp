@@ -128,24 +128,6 @@ TEST(Kreise, NoSolutionSaysSoAndKeepsOrClearsTheResults) {
   }
 }
 
-TEST(Kreise, WithoutTangentsTheResultRecordsAreCleared) {
-  MenueUmgebung u;
-  u.punkt(1, 10, 20);
-  u.punkt(2, 40, 60);
-  u.punkt(3, 13, 24);
-  RechenDialog& d = u.oeffnen(kTangenten.menue, kTangenten.form);
-  nummern(d, {"PP1Nr", "PP2Nr"});
-  d.control("Param", 0).setText("5");
-  d.control("Berechnen").click();
-  d.control("PP2Nr").setText("3");
-  d.control("Berechnen").click();
-  ASSERT_EQ(u.meldungen().size(), 1u);
-  for (int i : {0, 1}) {
-    EXPECT_EQ(d.Ergebnis(i).A, 0);
-    EXPECT_EQ(d.Ergebnis(i).B, 0);
-  }
-}
-
 // ---- the nine ways of giving the line
 
 struct GeradeKreisTest : ::testing::Test {

@@ -171,42 +171,23 @@ TEST_F(AusrundungTest, BothTangentPointsAreStoredWithTheHeightsOfP1AndP2) {
   EXPECT_EQ(u.zustand.Punkte[1].A, 0) << "the input points are untouched";
 }
 
+// Gon is the rechnen_ausrundung macro's case: in degrees the interior
+// angle and the directions turn with the unit, a length does not.
 TEST_F(AusrundungTest, APolarTableInDegreesGetsPolarTangentPointsAndItsRecordsBack) {
-  struct Fall {
-    double faktor;
-    const char* omega;
-    double phiT1, phiT2, phiP1, phiP3;
-  };
-  // Gon is the rechnen_ausrundung macro's case.
-  for (const Fall& f : {Fall{kPi / 180, "103.324531", 43.080303966, 32.325127731, 56.309932467, 14.036243466}}) {
-    MenueUmgebung v;
-    v.zustand.Polar = core::Wahr;
-    v.zustand.WinkelFaktor = f.faktor;
-    const double ecke[3][2] = {{20, 30}, {100, 90}, {160, 40}};
-    for (int i = 0; i < 3; ++i) {
-      double t = std::atan2(ecke[i][1], ecke[i][0]);
-      v.punkt(i + 1, std::hypot(ecke[i][0], ecke[i][1]), t / f.faktor);
-    }
-    RechenDialog& d = v.oeffnen("MnuKreisAusrundung", "Ausrundung");
-    MenueUmgebung::eintragen(d, {{"PP1Nr", "1"}, {"PP2Nr", "2"}, {"PP3Nr", "3"}});
-    d.control("OptionRadius").click();
-    d.control("Param", 0).setText("30");
-    d.control("Berechnen").click();
-    EXPECT_TRUE(v.meldungen().empty());
-    EXPECT_EQ(d.control("LabelA", 0).captionText(), "e1 =");
-    EXPECT_EQ(d.control("LabelB", 1).captionText(), "Phi2 =");
-    EXPECT_EQ(d.control("Erg", 1).captionText(), "23.72467") << "a length is not converted";
-    EXPECT_EQ(d.control("Erg", 2).captionText(), f.omega);
-    EXPECT_NEAR(d.Ergebnis(0).A, 110.926319935, 1e-6);
-    EXPECT_NEAR(d.Ergebnis(0).B, f.phiT1, 1e-7);
-    EXPECT_NEAR(d.Ergebnis(1).A, 139.907647272, 1e-6);
-    EXPECT_NEAR(d.Ergebnis(1).B, f.phiT2, 1e-7);
-    EXPECT_NEAR(d.Eingabe(0).B, f.phiP1, 1e-7);
-    EXPECT_NEAR(d.Eingabe(2).A, 164.924225025, 1e-7);
-    EXPECT_NEAR(d.Eingabe(2).B, f.phiP3, 1e-7);
-    d.control("Speichern", 1).click();
-    EXPECT_NEAR(v.zustand.Punkte[4].B, f.phiT2, 1e-7);
-  }
+  u.zustand.Polar = core::Wahr;
+  u.zustand.WinkelFaktor = kGrad;
+  const double ecke[3][2] = {{20, 30}, {100, 90}, {160, 40}};
+  for (int i = 0; i < 3; ++i)
+    u.punkt(i + 1, std::hypot(ecke[i][0], ecke[i][1]), std::atan2(ecke[i][1], ecke[i][0]) / kGrad);
+  RechenDialog& d = rechnen("OptionRadius", "30");
+  EXPECT_TRUE(u.meldungen().empty());
+  EXPECT_EQ(d.control("Erg", 1).captionText(), "23.72467") << "a length is not converted";
+  EXPECT_EQ(d.control("Erg", 2).captionText(), "103.324531");
+  EXPECT_NEAR(d.Ergebnis(0).A, 110.926319935, 1e-6);
+  EXPECT_NEAR(d.Ergebnis(0).B, 43.080303966, 1e-7);
+  EXPECT_NEAR(d.Ergebnis(1).B, 32.325127731, 1e-7);
+  EXPECT_NEAR(d.Eingabe(0).B, 56.309932467, 1e-7) << "the records are polar again";
+  EXPECT_NEAR(d.Eingabe(2).B, 14.036243466, 1e-7);
 }
 
 }  // namespace

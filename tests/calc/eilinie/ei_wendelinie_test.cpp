@@ -80,8 +80,8 @@ TEST_F(EiWendelinieTest, UnreasonableParametersGiveTheLinesMessageAndKeepTheResu
                         Fall{false, "200", "200", "2"}, Fall{true, "200", "200", "2"}}) {
     SCOPED_TRACE(std::string(f.r1) + " " + f.r2 + " " + f.abstand);
     MenueUmgebung v;
-    EiWendelinieForm& d = static_cast<EiWendelinieForm&>(
-        f.wendelinie ? v.oeffnen("MnuKreisWendelinie", "FormEiWendelinie") : v.oeffnen("MnuKreisEilinie", "FormEiWendelinie"));
+    EiWendelinieForm& d = static_cast<EiWendelinieForm&>(v.oeffnen(
+        f.wendelinie ? "MnuKreisWendelinie" : "MnuKreisEilinie", "FormEiWendelinie"));
     rechnen(d, "150", "90", "3");
     const Texte vorher = ergebnis(d);
     rechnen(d, f.r1, f.r2, f.abstand);

@@ -63,8 +63,9 @@ struct MenueUmgebung : Umgebung {
   // Erg(0), Erg(1), ... show these texts; "" is not checked.
   static void felder(const forms::Form& d, const std::vector<std::string>& erwartet) {
     for (size_t i = 0; i < erwartet.size(); ++i)
-      if (!erwartet[i].empty())
+      if (!erwartet[i].empty()) {
         EXPECT_EQ(d.control("Erg", static_cast<int>(i)).captionText(), erwartet[i]) << "Erg(" << i << ")";
+      }
   }
 };
 

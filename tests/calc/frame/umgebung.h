@@ -93,7 +93,7 @@ struct Umgebung {
                forms::Icon icon = forms::Icon::Exclamation) {
     ASSERT_EQ(meldungen().size(), 1u) << text;
     EXPECT_EQ(meldungen()[0].message.text, text);
-    if (!titel.empty()) EXPECT_EQ(meldungen()[0].message.title, titel);
+    if (!titel.empty()) { EXPECT_EQ(meldungen()[0].message.title, titel); }
     EXPECT_EQ(meldungen()[0].message.icon, icon);
     meldungen().clear();
   }

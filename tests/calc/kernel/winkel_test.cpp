@@ -23,7 +23,6 @@ TEST(Richtung, EveryQuadrantAndTheAxes) {
                        Fall{0, -2, 3.141592654}, Fall{0, 0, 0.0}, Fall{0, 5, 0.0}})
     EXPECT_NEAR(Richtung(f.y, f.x), f.erwartet, kGenau) << f.y << "," << f.x;
   EXPECT_EQ(Richtung(0, -2), kPi) << "the program's Pi, not the closest double of pi";
-  EXPECT_NE(Richtung(0, -2), M_PI);
 }
 
 TEST(WinkelNormieren, BringsAnyAngleIntoOneTurnWithTheProgramsPi) {
@@ -32,8 +31,7 @@ TEST(WinkelNormieren, BringsAnyAngleIntoOneTurnWithTheProgramsPi) {
   EXPECT_EQ(WinkelNormieren(2 * kPi), 0.0) << "exactly one turn is 0";
   EXPECT_EQ(WinkelNormieren(-2 * kPi), 0.0);
   EXPECT_NEAR(WinkelNormieren(4 * kPi + 0.5), 0.5, 1e-12);
-  EXPECT_NEAR(WinkelNormieren(-0.1), 6.1831853080000005, 1e-12);
-  EXPECT_GT(std::fabs(WinkelNormieren(-0.1) - (2 * M_PI - 0.1)), 1e-10) << "the program's Pi";
+  EXPECT_NEAR(WinkelNormieren(-0.1), 6.1831853080000005, 1e-12) << "the program's Pi, 8e-10 from pi's";
 }
 
 struct Einheit {
@@ -127,7 +125,6 @@ TEST(ArcusSinus, WorkedValuesAndTheEdges) {
   // Exactly +-1 gives the program's quarter circle, not the one of exact pi.
   EXPECT_EQ(ArcusSinus(1.0), kPi / 2);
   EXPECT_EQ(ArcusSinus(-1.0), -kPi / 2);
-  EXPECT_NE(ArcusSinus(1.0), std::asin(1.0));
   // Beyond 1 the root failed and the result was 0.
   for (const double x : {1.5, -2.0, 1.0000000001, double{INFINITY}, double{NAN}}) EXPECT_EQ(ArcusSinus(x), 0.0) << x;
 }

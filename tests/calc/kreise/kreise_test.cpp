@@ -27,7 +27,7 @@ struct Fall {
   Dialog dialog;
   std::vector<std::array<double, 3>> punkte;  // points 1, 2, ... with heights
   MenueUmgebung::Felder eingeben;
-  std::vector<double> ergebnis;  // a, b of each result point
+  std::vector<double> ergebnis = {};  // a, b of each result point
 };
 
 void nummern(RechenDialog& d, std::initializer_list<const char*> felder) {
@@ -77,12 +77,10 @@ TEST(Kreise, TheTangentLengthIsShown) {
   u.punkt(1, 10, 20);
   u.punkt(2, 40, 60);
   RechenDialog& t = u.oeffnen(kTangenten.menue, kTangenten.form);
-  EXPECT_EQ(t.control("FrameErgebnis").captionText(), "Tangentenlänge");
   nummern(t, {"PP1Nr", "PP2Nr"});
   t.control("Param", 0).setText("5");
   t.control("Berechnen").click();
   EXPECT_EQ(t.control("Erg", 0).captionText(), "49.749372");
-  EXPECT_EQ(u.oeffnen(kUmkreis.menue, kUmkreis.form).control("ErgLabel", 0).captionText(), "Radius");
 }
 
 TEST(Kreise, NoSolutionSaysSoAndKeepsOrClearsTheResults) {

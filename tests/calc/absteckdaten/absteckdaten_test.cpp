@@ -22,7 +22,6 @@ struct AbsteckUmgebung : MenueUmgebung {
     return d;
   }
   const core::Punkt& p(int n) const { return zustand.Punkte[static_cast<size_t>(n)]; }
-  std::string letzteMeldung() { return meldungen().empty() ? "" : meldungen().back().message.text; }
 };
 
 // A (100, 200) as point 1, P (70, 260) as point 2, in system 0 .. 3.

@@ -45,7 +45,6 @@ TEST_F(EiWendelinieTest, NothingIsAnAngleSoDegreesGiveTheSameLengths) {
   EiWendelinieForm& d = ei();
   rechnen(d, "100", "300", "2");
   EXPECT_EQ(ergebnis(d), (Texte{"112.928687", "127.529", "42.510", "85.019"}));
-  EXPECT_NEAR(MenueUmgebung::zahl(d.control("Erg", 0)), 112.928686977634, 1e-6);
   EXPECT_TRUE(u.meldungen().empty());
 }
 

@@ -58,7 +58,6 @@ TEST_F(TaschenrechnerTest, EveryEntryOpensTheOneCalculator) {
   main.control("mnuAnsichtTaschenrechner").click();
   forms::Form* f = u.forms.find("Taschenrechner");
   ASSERT_NE(f, nullptr);
-  EXPECT_EQ(f->caption(), "Taschenrechner");
   u.tippe("42");
   main.control("FnLButton", 8).click();
   main.control("MnuWerTaschenrechner").click();

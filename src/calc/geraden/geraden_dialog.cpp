@@ -36,6 +36,8 @@ void GeradenDialog::Auswerten(int i, double& da, double& db) {
 void GeradenDialog::Load() {
   RechenDialog::Load();
   for (Gerade& g : geraden_) g.auswahl->Laden();
+  // The access keys of the result captions stand only until the first result.
+  for (const char* name : {"LabelA", "LabelB"}) control(name).setCaption("&" + control(name).captionText());
 }
 
 }  // namespace kolm::calc

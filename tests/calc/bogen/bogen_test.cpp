@@ -285,6 +285,11 @@ TEST_F(FlaecheBogenTest, MitBATakesTheChordFromThePointsInAltgrad) {
   d.control("Berechnen").click();
   EXPECT_TRUE(u.meldungen().empty());
   MenueUmgebung::felder(d, {"60.000", "90.453403", "112.88538", "118.213", "100.000", "26.834", "1888.086"});
+  // A radius of exactly half the chord is the half circle, not too small.
+  d.control("Param", 0).setText("50");
+  d.control("Berechnen").click();
+  EXPECT_TRUE(u.meldungen().empty());
+  MenueUmgebung::felder(d, {"50.000", "", "180.000", "157.080", "100.000", "50.000", "3926.991"});
   d.control("Param", 0).setText("49");
   d.control("Berechnen").click();
   u.meldung("Radius ist zu klein!");

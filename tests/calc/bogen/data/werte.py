@@ -126,6 +126,7 @@ def segment(S, R, faktor=GON):
 zeige("Segment S 80, R 50 (P 20)", segment(80, 50))
 zeige("Segment S 80, P 60: R from (S/2)^2 + (R-P)^2 = R^2", segment(80, (40 ** 2 + 60 ** 2) / 120))
 zeige("Segment BA-BE c 100, R 60, grad", segment(100, 60, GRAD))
+zeige("Segment BA-BE c 100, R 50 = c/2 (half circle), grad", segment(100, 50, GRAD))
 # half circle with the program's Pi: the tangent of Pi/2 is huge and negative
 R = 40
 print("Segment S 80, R 40: alpha %s, b %s, T %s, F %s" % (

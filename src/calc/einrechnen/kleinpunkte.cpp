@@ -47,17 +47,12 @@ void KleinpunkteForm::Load() {
 }
 
 void KleinpunkteForm::AGeholt() {
-  const core::Punkt vorher = A();
-  const std::string textVorher = control("G1P1").captionText();
-  PunktEingeben(0);
+  if (!PunktEingeben(0)) return;  // cancelled
   const std::string nr = control("G1P1Nr").text();
   if (!numbers::IstLeer(nr)) {
     control("PP1Nr").setText(nr);  // a number: P fetches it too
     return;
   }
-  const bool abgebrochen = A().A == vorher.A && A().B == vorher.B && A().C == vorher.C &&
-                           control("G1P1").captionText() == textVorher;
-  if (abgebrochen) return;
   // By hand: the record and its label go to P as they are.
   control("PP1Nr").setText(nr);
   P() = A();

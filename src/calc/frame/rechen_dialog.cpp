@@ -157,12 +157,12 @@ void RechenDialog::NummerGeaendert(int i) {
   control("Berechnen").setDefault(true);
 }
 
-void RechenDialog::PunktEingeben(int i) {
+bool RechenDialog::PunktEingeben(int i) {
   Eingang& e = eingaben_.at(static_cast<size_t>(i));
   forms::Control& feld = control(e.name + "Nr");
   const bool mitNummer = !numbers::IstLeer(feld.text()) && numbers::ZahlLesen(feld.text()) >= 0;
   const points::PunktEingabeAntwort antwort = points::PunktEingeben(anwendung_, e.punkt, mitNummer);
-  if (antwort.text.empty()) return;
+  if (antwort.text.empty()) return false;
   const bool gleich = feld.text() == antwort.punktNr;
   feld.setText(antwort.punktNr);  // its Change fetches a point given by number
   if (numbers::IstLeer(antwort.punktNr)) {
@@ -178,6 +178,7 @@ void RechenDialog::PunktEingeben(int i) {
   } else if (gleich) {
     NummerGeaendert(i);
   }
+  return true;
 }
 
 void RechenDialog::ParamTaste(forms::Control& feld, forms::EventArgs& args) {

@@ -48,7 +48,8 @@ class RechenDialog : public forms::Form {
   // The commands, as their buttons run them.
   void Berechnen();
   void Speichern(int ergebnis = 0);
-  void PunktEingeben(int eingabe);
+  // True when the user answered, false when Punkteingabe was cancelled.
+  bool PunktEingeben(int eingabe);
 
  protected:
   // ---- Declaration, in the dialog's constructor

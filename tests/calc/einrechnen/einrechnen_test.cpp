@@ -209,6 +209,18 @@ TEST_F(KleinpunkteTest, AByHandIsCopiedToP) {
   // From A = P = (20, 30) ten against the way to E = (3, 4): away from E
   EXPECT_NEAR(d.Ergebnis().A, 25.472494, 1e-6);
   EXPECT_NEAR(d.Ergebnis().B, 38.369696, 1e-6);
+  // A confirmed as it stands puts the next step back at A, each time.
+  for (int i = 0; i < 2; ++i) {
+    d.control("Berechnen").click();
+    u.host.onModal([](forms::Form& f) { f.control("OK").click(); });
+    d.control("GetG1P1").click();
+    EXPECT_EQ(d.Eingabe(2).A, 20);
+    EXPECT_EQ(d.Eingabe(2).B, 30);
+  }
+  d.control("Berechnen").click();
+  u.host.onModal([](forms::Form& f) { f.control("Cancel").click(); });
+  d.control("GetG1P1").click();
+  EXPECT_NEAR(d.Eingabe(2).A, 25.472494, 1e-6) << "cancelled: P stays where the step led";
 }
 
 TEST_F(KleinpunkteTest, AKeyInTheDistanceOrAWayChosenMakesBerechnenTheDefault) {

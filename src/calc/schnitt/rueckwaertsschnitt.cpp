@@ -13,7 +13,8 @@ RueckwaertsschnittForm::RueckwaertsschnittForm(forms::Forms& forms, core::Anwend
   Parameter(0, "Winkel zwischen P1-S-P2:");
   Parameter(1, "Winkel zwischen P2-S-P3:");
   ErgebnisPunkt(-1, "Ergebnis: Standpunkt S");
-  Fehlermeldung("Mit diesen Parametern kann kein Rückwärtsschnitt eingerechnet werden!", "");
+  // A box without a title of its own bears the program's name.
+  Fehlermeldung("Mit diesen Parametern kann kein Rückwärtsschnitt eingerechnet werden!", forms::ProgrammName);
 }
 
 bool RueckwaertsschnittForm::Rechnen() {

@@ -15,7 +15,8 @@ VorwaertsschnittForm::VorwaertsschnittForm(forms::Forms& forms, core::Anwendung&
   // Beside the two fields: the angles turn in opposite senses.
   add(forms::ControlKind::Label, "Hinweis").caption("Winkel haben nicht den gleichen Drehsinn!").at(2, 2, 2, 1);
   ErgebnisPunkt(-1, "Ergebnis: Standpunkt S");
-  Fehlermeldung("Mit diesen Parametern kann kein Vorwärtsschnitt eingerechnet werden!", "");
+  // A box without a title of its own bears the program's name.
+  Fehlermeldung("Mit diesen Parametern kann kein Vorwärtsschnitt eingerechnet werden!", forms::ProgrammName);
 }
 
 bool VorwaertsschnittForm::Rechnen() {

@@ -105,9 +105,10 @@ bool KlotoideForm::Rechnen() {
   const double x = xs * L, y = ys * L;
   if (!Geht(x) || !Geht(y)) return false;
 
-  // R and A again from the series' data. A straight (tau = 0) keeps what
-  // was typed: its run ends later, at the tangents.
-  if (tau != 0) {
+  // R and A again from the series' data. Three typed fields (a straight)
+  // keep what was typed: that run ends later, at the tangents. A tau of 0
+  // from a length of 0 fails here, with only the filled-in field written.
+  if (ausgefuellt) {
     R = (L / 2) / tau;
     A = std::sqrt(L * R);
     if (!Geht(R) || !Geht(A)) return false;

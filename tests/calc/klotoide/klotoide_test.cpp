@@ -122,15 +122,19 @@ TEST_F(KlotoideTest, NeitherThePolarNorTheM31TableChangesTheNumbers) {
 }
 
 TEST_F(KlotoideTest, FailuresEndQuietlyAndLeaveWhatWasThere) {
-  struct Versuch { const char *was, *L, *A, *R; int gesucht; };
-  for (const Versuch& v : {Versuch{"L 0 with R empty", "0", "100", "", 2},
-                           Versuch{"A 0 with R empty", "100", "0", "", 2},
-                           Versuch{"root of a negative L*R", "-10", "", "100", 1},
-                           Versuch{"R 0 with L empty", "", "100", "0", 0}}) {
+  // A length of 0 found or given with R typed makes tau 0: the field is
+  // filled in, and R = (L / 2) / tau then fails.
+  struct Versuch { const char *was, *L, *A, *R; int gesucht; const char* gefuellt; };
+  for (const Versuch& v : {Versuch{"L 0 with R empty", "0", "100", "", 2, ""},
+                           Versuch{"A 0 with R empty", "100", "0", "", 2, ""},
+                           Versuch{"root of a negative L*R", "-10", "", "100", 1, ""},
+                           Versuch{"R 0 with L empty", "", "100", "0", 0, ""},
+                           Versuch{"L 0 with A empty", "0", "", "100", 1, ".000"},
+                           Versuch{"A 0 with L empty", "", "0", "100", 0, ".000"}}) {
     MenueUmgebung w;
     RechenDialog& d = w.oeffnen("MnuKreisKlotoide", "FormKlotoide");
     rechnen(d, v.L, v.A, v.R);
-    EXPECT_EQ(d.control("Param", v.gesucht).text(), "") << v.was;
+    EXPECT_EQ(d.control("Param", v.gesucht).text(), v.gefuellt) << v.was;
     EXPECT_EQ(ergebnisse(d), leer) << v.was;
     EXPECT_TRUE(w.meldungen().empty()) << v.was;
   }

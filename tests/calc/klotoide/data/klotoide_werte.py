@@ -112,6 +112,10 @@ def main():
     L, R = 100, 100
     print("straight L 100, A 100, R 100: tau", standard(0.0), "dR", ergebnis(0.0),
           "xM", ergebnis(L), "yM", ergebnis(R))
+    # A length of 0 with R typed: tau = 0, the empty field is filled in, and
+    # R = (L / 2) / tau divides 0 by 0, so no result is shown.
+    print("L 0, R 100: A", fest(math.sqrt(0 * 100)), "; A 0, R 100: L", fest(0 * 0 / 100),
+          "; then (L / 2) / tau = 0 / 0: no results")
 
 
 if __name__ == "__main__":

@@ -263,19 +263,9 @@ void TaschenrechnerForm::Zweistellig(const std::function<double(double, double)>
 }
 
 void TaschenrechnerForm::VorzeichenWechseln() {
-  forms::Control& feld = control("Text");
-  std::string text = feld.text();
-  if (fertig_ || numbers::IstLeer(text)) {
-    Einstellig([](double x) { return -x; });
-    return;
-  }
-  // While a number is being typed the sign flips in the text, so typing goes on.
-  if (text.front() == '-')
-    text.erase(0, 1);
-  else
-    text.insert(0, "-");
-  feld.setText(text);
-  feld.setSelection(forms::utf8::Length(text), 0);
+  // X = -X like every other key: a number being typed is taken as X first,
+  // and the negated value is a finished result in the display's pattern.
+  Einstellig([](double x) { return -x; });
 }
 
 void TaschenrechnerForm::Zurueck() {

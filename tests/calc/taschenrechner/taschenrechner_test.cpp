@@ -255,16 +255,16 @@ TEST_F(TaschenrechnerTest, NumberPatternsChangeAtTheirBounds) {
   EXPECT_EQ(u.anzeige(), "-1.2345679E8");
 }
 
-TEST_F(TaschenrechnerTest, SignKeyFlipsWhileTypingAndNegatesAResult) {
+TEST_F(TaschenrechnerTest, SignKeyNegatesXAsAFinishedResult) {
   u.tippe("12 ");
-  EXPECT_EQ(u.anzeige(), "-12");
-  EXPECT_FALSE(u.rechner().fertig());
-  u.tippe("5 ");
-  EXPECT_EQ(u.anzeige(), "125") << "typing goes on after the sign";
+  EXPECT_EQ(u.anzeige(), "-12.") << "the typed number is taken as X";
+  EXPECT_TRUE(u.rechner().fertig());
+  u.tippe("5");
+  EXPECT_EQ(u.anzeige(), "5") << "the next digit starts a new number";
   u.tippe("\r3+ ");
-  EXPECT_EQ(u.anzeige(), "-128.");
+  EXPECT_EQ(u.anzeige(), "-8.");
   u.tippe(" ");
-  EXPECT_EQ(u.anzeige(), "128.");
+  EXPECT_EQ(u.anzeige(), "8.");
 }
 
 TEST_F(TaschenrechnerTest, BackspaceTakesADigitOrTheWholeResult) {

@@ -98,6 +98,13 @@ zeige("log 1000", math.log10(1000))
 zeige("10^2.5", 10 ** 2.5)
 zeige("-(-3.5)", 3.5)
 
+print("sign key: X = -X, typed or not, shown as a result")
+zeige("12 typed, sign", -12)
+zeige("5 + 3, sign", -(5 + 3))
+zeige("  sign again", -(-(5 + 3)))
+zeige("4 typed, sign", -4)
+zeige("  sign again", -(-4))
+
 print("angles")
 zeige("sin 50 gon", math.sin(50 * GON))
 zeige("cos 100 gon", math.cos(100 * GON))

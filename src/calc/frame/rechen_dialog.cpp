@@ -226,7 +226,6 @@ void RechenDialog::Berechnen() {
     }
     if (!ergebnisse_.empty()) {
       const int erster = ergebnisse_.front().index;
-      control("Speichern", erster).setDefault(true);
       control("PktNr", erster).setFocus();
     }
   }

@@ -89,6 +89,7 @@ TEST_F(EinrechnenTest, FortlaufendGoesOnFromTheLastResult) {
   EXPECT_NE(d.control("G1P1").captionText().find("14.472136"), std::string::npos);
   EXPECT_EQ(d.activeControl(), &d.control("PktNr"));
   d.control("Berechnen").click();  // the emptied number fetches nothing
+  EXPECT_TRUE(d.control("Berechnen").isDefault()) << "the same number offered again: Enter goes on";
   EXPECT_NEAR(d.Ergebnis().A, 18.944272, 1e-6);
   EXPECT_NEAR(d.Ergebnis().B, 37.888544, 1e-6);
   EXPECT_EQ(d.control("ErgB").captionText(), "37.889");

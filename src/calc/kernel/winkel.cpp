@@ -37,7 +37,7 @@ void PolarZuRechtwinklig(double& a, double& b, const Winkelsystem& s) {
 }
 
 void RechtwinkligZuPolar(double& a, double& b, const Winkelsystem& s) {
-  const double e = std::pow(a * a + b * b, 0.5);
+  const double e = std::sqrt(a * a + b * b);
   double p = s.m31 ? Richtung(a, b) : Richtung(b, a);
   if (s.falschdrehend) p = Pi / 2 - p;
   p = WinkelNormieren(p);

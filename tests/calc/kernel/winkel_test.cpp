@@ -72,6 +72,10 @@ TEST(RechtwinkligZuPolar, AllUnitsAndSystems) {
       EXPECT_NEAR(a, 50.0, kGenau);
       EXPECT_NEAR(b, erwartet[u][s], 1e-8) << kEinheiten[u].name << " " << s;
     }
+  // The distance is the square root, to the last bit (a power of 0.5 ends in ...116).
+  double a = 0.125, b = 54;
+  RechtwinkligZuPolar(a, b, {kPi / 200});
+  EXPECT_EQ(a, 54.00014467573212);
 }
 
 TEST(RechtwinkligZuPolar, AStraightUpPointIsPhiZeroUnderM31AndAQuarterOtherwise) {

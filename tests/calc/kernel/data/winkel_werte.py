@@ -20,7 +20,7 @@ def p2r(e, phi, f, m31, falsch):
     return (e*math.sin(p), e*math.cos(p)) if m31 else (e*math.cos(p), e*math.sin(p))
 
 def r2p(a, b, f, m31, falsch):
-    e = (a*a + b*b) ** 0.5
+    e = math.sqrt(a*a + b*b)
     p = richtung(a, b) if m31 else richtung(b, a)
     if falsch: p = PI/2 - p
     p = norm(p)
@@ -41,3 +41,6 @@ for name, f in units.items():
     for m31 in (False, True):
         for falsch in (False, True):
             print("r2p (0, 0)", name, m31, falsch, repr(r2p(0.0, 0.0, f, m31, falsch)))
+# The distance is a square root, not a power of one half: the two differ
+# in the last bit here.
+print("r2p e (0.125, 54)", repr(r2p(0.125, 54.0, PI/200, False, False)[0]), "power", repr((0.125**2 + 54.0**2) ** 0.5))

@@ -334,22 +334,27 @@ constexpr double kOffen = std::numeric_limits<double>::quiet_NaN();  // not chec
 TEST(Distanz, LengthDirectionGradientAndDifferencesInEachSystemAndTable) {
   struct Fall {
     const char* name;
-    bool m31;
+    int system;  // of the four coordinate systems
     double p1[2], p2[2];
     double erwartet[5];  // distance, angle, gradient in percent, the two differences
   };
   const Fall faelle[] = {
-      {"system 0", false, {100, 200}, {130, 240},
+      {"system 0", 0, {100, 200}, {130, 240},
        {50, std::atan2(40.0, 30.0) * kGonProRad, 100.0 * 40 / 30, 30, 40}},
       // 30 to the right (Y), 40 up (X): the tangent of the system's own angle
-      {"M31 runs clockwise from the axis up", true, {0, 0}, {30, 40},
+      {"M31 runs clockwise from the axis up", 1, {0, 0}, {30, 40},
        {50, std::atan2(30.0, 40.0) * kGonProRad, 100.0 * 30 / 40, kOffen, kOffen}},
-      {"identical points give zero without a box", false, {5, 5}, {5, 5}, {0, kOffen, kOffen, 0, 0}},
+      {"identical points give zero without a box", 0, {5, 5}, {5, 5}, {0, 0, 0, 0, 0}},
+      {"identical points under M31", 1, {5, 5}, {5, 5}, {0, 0, 0, 0, 0}},
+      {"identical points, angle counted from the axis up: a quarter circle", 2, {5, 5}, {5, 5},
+       {0, 100, kOffen, 0, 0}},
+      {"identical points, M31 counter-clockwise: a quarter circle", 3, {5, 5}, {5, 5}, {0, 100, kOffen, 0, 0}},
   };
   for (const Fall& f : faelle) {
     SCOPED_TRACE(f.name);
     MenueUmgebung u;
-    u.zustand.M31 = f.m31 ? core::Wahr : core::Falsch;
+    u.zustand.M31 = f.system % 2 == 1 ? core::Wahr : core::Falsch;
+    u.zustand.Falschdrehend = f.system >= 2 ? core::Wahr : core::Falsch;
     u.punkt(1, f.p1[0], f.p1[1]);
     u.punkt(2, f.p2[0], f.p2[1]);
     RechenDialog& d = u.oeffnen("MnuGerDist", "Distanz");
@@ -362,6 +367,20 @@ TEST(Distanz, LengthDirectionGradientAndDifferencesInEachSystemAndTable) {
         EXPECT_NEAR(MenueUmgebung::zahl(d.control("Erg", i)), f.erwartet[i], 1e-5) << i;
       }
   }
+}
+
+TEST(Distanz, AVerticalPairUnderSystem0ShowsAHugeGradientNotZuGross) {
+  // The direction is the program's Pi / 2, whose cosine is not exactly 0.
+  MenueUmgebung u;
+  u.punkt(1, 0, 0);
+  u.punkt(2, 0, 10);
+  RechenDialog& d = u.oeffnen("MnuGerDist", "Distanz");
+  d.control("PP1Nr").setText("1");
+  d.control("PP2Nr").setText("2");
+  d.control("Berechnen").click();
+  EXPECT_NEAR(MenueUmgebung::zahl(d.control("Erg", 1)), 100, 1e-6);
+  EXPECT_NE(d.control("Erg", 2).captionText(), "zu groß");
+  EXPECT_GT(std::fabs(MenueUmgebung::zahl(d.control("Erg", 2))), 1e9);
 }
 
 TEST(Distanz, HasNeitherSpeichernNorSkizze) {

@@ -40,7 +40,6 @@ AbsteckdatenForm::AbsteckdatenForm(forms::Forms& forms, core::Anwendung& anwendu
   on("CheckMehrere", Event::Click, [this](forms::Control&, forms::EventArgs&) { MehrereUmschalten(); });
   on("SpinAnz", Event::SpinUp, [this](forms::Control&, forms::EventArgs&) { AnzahlDrehen(1); });
   on("SpinAnz", Event::SpinDown, [this](forms::Control&, forms::EventArgs&) { AnzahlDrehen(-1); });
-  on("Anz", Event::KeyPress, [this](forms::Control& feld, forms::EventArgs& args) { ParamTaste(feld, args); });
   on("Anz", Event::GotFocus, [](forms::Control& feld, forms::EventArgs&) {
     feld.setSelection(0, static_cast<int>(feld.text().size()));
   });

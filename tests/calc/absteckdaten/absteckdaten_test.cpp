@@ -4,6 +4,7 @@
 // values from data/werte.py. Captions, storing one point, a polar table and
 // an M31 run are covered end to end by the rechnen_absteckdaten* macros.
 #include "calc/frame/menue_umgebung.h"
+#include "forms/keys.h"
 
 namespace kolm::calc::testing {
 namespace {
@@ -62,6 +63,12 @@ TEST(Absteckdaten, TheSpinButtonCountsWithoutLimit) {
   anz.setText("41,5");
   spin.raise(forms::Event::SpinUp);
   EXPECT_EQ(anz.text(), "43") << "42.5 in the number pattern";
+  // The count is no parameter field: letters are typed, not variables.
+  u.zustand.Variablen[0] = 7;
+  anz.setText("");
+  for (char32_t c : {U'a', U'B'}) anz.form().sendKey(anz, forms::keys::KeyCodeOfChar(c), 0, c);
+  EXPECT_EQ(anz.text(), "aB");
+  EXPECT_EQ(u.zustand.Variablen[1], 0);
 }
 
 TEST(Absteckdaten, TheDirectionFollowsTheSystemAndTheUnit) {

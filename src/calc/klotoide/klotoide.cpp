@@ -26,8 +26,8 @@ KlotoideForm::KlotoideForm(forms::Forms& forms, core::Anwendung& anwendung)
   Skalar(1, "ΔR =");
   Skalar(2, "M (x,y)");
   Skalar(3, "");
-  Skalar(4, "Tk =");
-  Skalar(5, "Tl =");
+  Skalar(4, "Tk");
+  Skalar(5, "Tl");
   Skalar(6, "X,Y");
   Skalar(7, "");
   Skalar(8, "Sehne =");

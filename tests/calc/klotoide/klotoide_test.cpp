@@ -40,7 +40,7 @@ struct KlotoideTest : ::testing::Test {
 
 TEST_F(KlotoideTest, TheResultsAreNamedAndAbbrechenTakesThePlaceOfSchliessen) {
   RechenDialog& d = oeffnen();
-  const Texte erg = {"τ =", "ΔR =", "M (x,y)", "", "Tk =", "Tl =", "X,Y", "", "Sehne =", "σ ="};
+  const Texte erg = {"τ =", "ΔR =", "M (x,y)", "", "Tk", "Tl", "X,Y", "", "Sehne =", "σ ="};
   for (int i = 0; i < 10; ++i) EXPECT_EQ(d.control("ErgLabel", i).captionText(), erg[static_cast<size_t>(i)]);
   EXPECT_FALSE(d.control("Schließen").visible());
   EXPECT_EQ(d.cancelButton(), &d.control("Abbrechen"));

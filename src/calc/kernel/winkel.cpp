@@ -11,8 +11,11 @@ using numbers::Pi;
 double Richtung(double y, double x) {
   if (y != 0) {
     if (x == 0) return y > 0 ? Pi / 2 : -Pi / 2;
-    if (x > 0) return std::atan(y / x);
-    return y < 0 ? std::atan(y / x) - Pi : std::atan(y / x) + Pi;
+    // An overflowing quotient failed the statement: the direction stayed 0.
+    const double q = y / x;
+    if (!std::isfinite(q)) return 0;
+    if (x > 0) return std::atan(q);
+    return y < 0 ? std::atan(q) - Pi : std::atan(q) + Pi;
   }
   return x < 0 ? Pi : 0;
 }

@@ -20,7 +20,8 @@ TEST(Richtung, EveryQuadrantAndTheAxes) {
   for (const Fall f : {Fall{1, 1, 0.7853981633974483}, Fall{-1, 1, -0.7853981633974483},
                        Fall{1, -1, 2.356194490602552}, Fall{-1, -1, -2.356194490602552},
                        Fall{3, 0, 1.570796327}, Fall{-3, 0, -1.570796327},
-                       Fall{0, -2, 3.141592654}, Fall{0, 0, 0.0}, Fall{0, 5, 0.0}})
+                       Fall{0, -2, 3.141592654}, Fall{0, 0, 0.0}, Fall{0, 5, 0.0},
+                       Fall{1e300, 1e-300, 0.0}, Fall{1e300, -1e-300, 0.0}})
     EXPECT_NEAR(Richtung(f.y, f.x), f.erwartet, kGenau) << f.y << "," << f.x;
   EXPECT_EQ(Richtung(0, -2), kPi) << "the program's Pi, not the closest double of pi";
 }

@@ -7,6 +7,7 @@ GROSS = 1e36
 def richtung(y, x):
     if y != 0:
         if x == 0: return PI/2 if y > 0 else -PI/2
+        if math.isinf(y/x): return 0.0  # the overflowing division fails: 0
         if x > 0: return math.atan(y/x)
         return math.atan(y/x) - PI if y < 0 else math.atan(y/x) + PI
     return PI if x < 0 else 0.0

@@ -6,6 +6,7 @@ PI = 3.141592654
 def richtung(y, x):
     if y != 0:
         if x == 0: return PI/2 if y > 0 else -PI/2
+        if math.isinf(y/x): return 0.0  # the overflowing division fails: 0
         if x > 0: return math.atan(y/x)
         return math.atan(y/x) - PI if y < 0 else math.atan(y/x) + PI
     return PI if x < 0 else 0.0
@@ -27,7 +28,7 @@ def r2p(a, b, f, m31, falsch):
     return e, p / f
 
 units = {"Neugrad": PI/200, "Altgrad": PI/180, "Radiant": 1.0}
-for y, x in [(1, 1), (-1, 1), (1, -1), (-1, -1), (3, 0), (-3, 0), (0, -2), (0, 0), (0, 5)]:
+for y, x in [(1, 1), (-1, 1), (1, -1), (-1, -1), (3, 0), (-3, 0), (0, -2), (0, 0), (0, 5), (1e300, 1e-300), (1e300, -1e-300)]:
     print("richtung", y, x, repr(richtung(y, x)))
 for w in [-1.0, 7.0, 2*PI, 4*PI + 0.5, -2*PI]:
     print("norm", repr(w), repr(norm(w)))

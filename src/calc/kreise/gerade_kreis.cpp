@@ -35,10 +35,16 @@ GeradeKreisForm::GeradeKreisForm(forms::Forms& forms, core::Anwendung& anwendung
   gerade1_.Anlegen("Gerade1", [this](forms::Control& feld, forms::EventArgs& args) { ParamTaste(feld, args); });
   on("Berechnen", Event::Click, [this](forms::Control&, forms::EventArgs&) {
     const bool polar = zustand().Polar != 0;
-    Berechnen();
     // Only the line's points go back to polar: the centre's record stays
-    // rectangular, as the users of this dialog have always known it.
-    if (polar) points::PolarZuRechtwinklig(zustand(), Eingabe(0).A, Eingabe(0).B);
+    // rectangular, exactly as its one conversion made it. Converting it back
+    // and forth would turn it by the difference of the program's Pi to pi.
+    core::Punkt mitte = Eingabe(0);
+    if (polar) points::PolarZuRechtwinklig(zustand(), mitte.A, mitte.B);
+    Berechnen();
+    if (polar) {
+      Eingabe(0).A = mitte.A;
+      Eingabe(0).B = mitte.B;
+    }
   });
 }
 

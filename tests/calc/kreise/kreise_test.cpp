@@ -168,21 +168,24 @@ TEST_F(GeradeKreisTest, TheWaysOfGivingTheLineMeetTheSamePoints) {
 }
 
 TEST_F(GeradeKreisTest, APolarTableSendsTheLineBackButKeepsTheCentreRectangular) {
+  // Below and left of the origin, where a way back to polar and forth again
+  // would turn the centre by the program's Pi.
   u.zustand.Polar = core::Wahr;
-  u.polarPunkt(1, 10, 10);
-  u.polarPunkt(2, 4, 2);
-  u.polarPunkt(3, 16, 18);
+  u.polarPunkt(1, -10, -10);
+  u.polarPunkt(2, -16, -18);
+  u.polarPunkt(3, -4, -2);
   nummern(d, {"PP1Nr", "G1P1Nr", "G1P2Nr"});
   d.control("Param", 0).setText("5");
   d.control("Berechnen").click();
-  EXPECT_NEAR(d.Ergebnis(0).A, std::hypot(13.0, 14.0), 1e-7);
-  EXPECT_NEAR(d.Ergebnis(0).B, std::atan2(14.0, 13.0) * 200 / kPi, 1e-6);
-  EXPECT_NEAR(d.Ergebnis(1).A, std::hypot(7.0, 6.0), 1e-7);
+  EXPECT_NEAR(d.Ergebnis(0).A, 9.219544457, 1e-7);
+  EXPECT_NEAR(d.Ergebnis(0).B, 245.112549626, 1e-6);
+  EXPECT_NEAR(d.Ergebnis(1).A, 19.104973175, 1e-7);
+  EXPECT_NEAR(d.Ergebnis(1).B, 252.356773793, 1e-6);
   EXPECT_NEAR(d.Eingabe(1).A, u.zustand.Punkte[2].A, 1e-9);
   EXPECT_NEAR(d.Eingabe(1).B, u.zustand.Punkte[2].B, 1e-7);
   EXPECT_NEAR(d.Eingabe(2).B, u.zustand.Punkte[3].B, 1e-7);
-  EXPECT_NEAR(d.Eingabe(0).A, 10, 1e-9) << "the centre stays rectangular";
-  EXPECT_NEAR(d.Eingabe(0).B, 10, 1e-9);
+  EXPECT_NEAR(d.Eingabe(0).A, -9.999999991796, 1e-11) << "the centre stays as its one conversion made it";
+  EXPECT_NEAR(d.Eingabe(0).B, -10.000000008204, 1e-11);
 }
 
 }  // namespace

@@ -47,3 +47,12 @@ D = 2 * (ax * (by - cy) + bx * (cy - ay) + cx * (ay - by))
 ux = ((ax**2 + ay**2) * (by - cy) + (bx**2 + by**2) * (cy - ay) + (cx**2 + cy**2) * (ay - by)) / D
 uy = ((ax**2 + ay**2) * (cx - bx) + (bx**2 + by**2) * (ax - cx) + (cx**2 + cy**2) * (bx - ax)) / D
 print("  M = %.9f %.9f  r = %.9f" % (ux, uy, math.hypot(ax - ux, ay - uy)))
+
+print("GeradeKreis polar, gon: M=(-10,-10) r=5, line (-16,-18) to (-4,-2)")
+# The table holds the centre as e, Phi (Phi in the full positive circle of
+# the program's Pi); the dialog makes it rectangular once and keeps that.
+e, phi = polar(-10, -10)
+t = phi * (Pi / 200)
+print("  centre kept = %.12f %.12f" % (e * math.cos(t), e * math.sin(t)))
+print("  polar S1 = %.9f %.9f" % polar(-7, -6))
+print("  polar S2 = %.9f %.9f" % polar(-13, -14))

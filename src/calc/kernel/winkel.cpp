@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "calc/kernel/klassisch.h"
 #include "points/numbers/konstanten.h"
 
 namespace kolm::kernel {
@@ -40,7 +41,9 @@ void PolarZuRechtwinklig(double& a, double& b, const Winkelsystem& s) {
 }
 
 void RechtwinkligZuPolar(double& a, double& b, const Winkelsystem& s) {
-  const double e = std::sqrt(a * a + b * b);
+  // Squares that overflow fail the statement: e stays 0.
+  double e = 0;
+  klassisch::Zuweisen(e, std::sqrt(a * a + b * b));
   double p = s.m31 ? Richtung(a, b) : Richtung(b, a);
   if (s.falschdrehend) p = Pi / 2 - p;
   p = WinkelNormieren(p);

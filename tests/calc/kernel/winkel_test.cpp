@@ -77,6 +77,10 @@ TEST(RechtwinkligZuPolar, AllUnitsAndSystems) {
   double a = 0.125, b = 54;
   RechtwinkligZuPolar(a, b, {kPi / 200});
   EXPECT_EQ(a, 54.00014467573212);
+  a = 1e200;
+  b = 0;
+  RechtwinkligZuPolar(a, b, {kPi / 200});
+  EXPECT_EQ(a, 0) << "overflowing squares leave the distance at 0";
 }
 
 TEST(RechtwinkligZuPolar, AStraightUpPointIsPhiZeroUnderM31AndAQuarterOtherwise) {

@@ -21,7 +21,8 @@ def p2r(e, phi, f, m31, falsch):
     return (e*math.sin(p), e*math.cos(p)) if m31 else (e*math.cos(p), e*math.sin(p))
 
 def r2p(a, b, f, m31, falsch):
-    e = math.sqrt(a*a + b*b)
+    s = a*a + b*b
+    e = 0.0 if math.isinf(s) else math.sqrt(s)  # overflowing squares fail: e stays 0
     p = richtung(a, b) if m31 else richtung(b, a)
     if falsch: p = PI/2 - p
     p = norm(p)
@@ -45,3 +46,4 @@ for name, f in units.items():
 # The distance is a square root, not a power of one half: the two differ
 # in the last bit here.
 print("r2p e (0.125, 54)", repr(r2p(0.125, 54.0, PI/200, False, False)[0]), "power", repr((0.125**2 + 54.0**2) ** 0.5))
+print("r2p (1e200, 0)", repr(r2p(1e200, 0.0, PI/200, False, False)))

@@ -23,7 +23,10 @@ double ArcusSinus(double x) {
 // caller is built around that.
 double ArcusCosinus(double x) {
   if (x == 0 || !(std::fabs(x) <= 1)) return 0;
-  return std::atan(std::sqrt(1 - x * x) / x);
+  // A quotient that overflows (x a tiny denormal) fails as the division by 0 does.
+  const double q = std::sqrt(1 - x * x) / x;
+  if (!std::isfinite(q)) return 0;
+  return std::atan(q);
 }
 
 double WinkelAusSeiten(double a1, double b1, double a2, double b2, double a3, double b3) {

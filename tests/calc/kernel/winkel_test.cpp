@@ -146,7 +146,7 @@ TEST(ArcusCosinus, IsNegativeForNegativeArgumentsAndZeroAtZero) {
     EXPECT_NEAR(ArcusCosinus(f.x), f.erwartet, 1e-15) << f.x;
   EXPECT_LT(ArcusCosinus(-0.5), 0) << "not acos on 0 .. Pi";
   EXPECT_EQ(ArcusCosinus(0.0), 0.0) << "the division by 0 failed: 0, not Pi/2";
-  for (const double x : {1.5, -2.0, double{INFINITY}, double{NAN}}) EXPECT_EQ(ArcusCosinus(x), 0.0) << x;
+  for (const double x : {1.5, -2.0, double{INFINITY}, double{NAN}, 1e-310, -1e-310}) EXPECT_EQ(ArcusCosinus(x), 0.0) << x;
 }
 
 TEST(WinkelAusSeiten, AngleAtTheSecondPoint) {

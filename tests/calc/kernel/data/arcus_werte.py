@@ -4,7 +4,7 @@
 import math
 from klassik import PI, asin_, acos_
 
-for x in [0.5, -0.5, 0.9, -0.9, 1.0, -1.0, 0.0, 1.5, -2.0]:
+for x in [0.5, -0.5, 0.9, -0.9, 1.0, -1.0, 0.0, 1.5, -2.0, 1e-310, -1e-310]:
     print("asin", x, repr(asin_(x)), "acos", repr(acos_(x)))
 
 def winkel(a1, b1, a2, b2, a3, b3):

@@ -23,4 +23,6 @@ def asin_(x):
 
 def acos_(x):
     if x == 0 or abs(x) > 1: return 0.0
-    return math.atan(math.sqrt(1 - x*x) / x)
+    q = math.sqrt(1 - x*x) / x
+    if math.isinf(q): return 0.0  # the overflowing division fails: 0
+    return math.atan(q)

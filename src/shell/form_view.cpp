@@ -324,6 +324,8 @@ void FormWidget::create(Item& item, const ControlViews* views) {
     case ControlKind::Label: {
       auto* label = new QLabel(this);
       label->setTextFormat(Qt::PlainText);
+      // A long note breaks at blanks within the width the dialog has.
+      label->setWordWrap(c.isMultiLine());
       item.widget = label;
       break;
     }

@@ -184,6 +184,20 @@ TEST_F(FormViewFixture, TabControlPagesHoldTheirControls) {
 
 // ---- typing -------------------------------------------------------------------------------------
 
+TEST_F(FormViewFixture, OnlyAMultiLineLabelWrapsItsText) {
+  class Notiz final : public forms::Form {
+   public:
+    explicit Notiz(forms::Forms& f) : Form(f, "Notiz", "Notiz") {
+      add(ControlKind::Label, "Hinweis").caption("Ein langer Hinweis bricht an Leerzeichen um").multiLine();
+      add(ControlKind::Label, "Titel").caption("Kurz").at(1, 0);
+    }
+  };
+  Notiz notiz(forms);
+  FormWidget notizView(notiz);
+  EXPECT_TRUE(notizView.findChild<QLabel*>("Hinweis")->wordWrap());
+  EXPECT_FALSE(notizView.findChild<QLabel*>("Titel")->wordWrap());
+}
+
 TEST_F(FormViewFixture, F1InAFieldOpensTheFormsHelpTopicAndLeavesTheText) {
   form->setHelpTopic("Punkt");
   auto* nr = widget<QLineEdit>("Nr");

@@ -32,20 +32,6 @@ constexpr char kFrage[] =
     "Die Berechnung ergibt einen relativen Fehler von über 10 Prozent. Eine Fortsetzung der Berechnung "
     "erscheint nicht sinnvoll. Soll die Berechnung trotzdem fortgesetzt werden?";
 
-// The long notes break into lines of about this many characters, at blanks.
-constexpr size_t kZeilenlaenge = 72;
-
-std::string Umbrochen(std::string text) {
-  size_t anfang = 0;
-  while (text.size() - anfang > kZeilenlaenge) {
-    const size_t blank = text.rfind(' ', anfang + kZeilenlaenge);
-    if (blank == std::string::npos || blank <= anfang) break;
-    text[blank] = '\n';
-    anfang = blank + 1;
-  }
-  return text;
-}
-
 // Beyond this share of the whole length a misclosure is no measuring error;
 // the bound itself still passes.
 constexpr double kRelativerFehler = 0.1;
@@ -59,11 +45,11 @@ PolygonzugForm::PolygonzugForm(forms::Forms& forms, core::Anwendung& anwendung)
   Parameter(0, "S&tart:");
   Parameter(1, "E&nde:");
   ErgebnisPunkt(-1, "Fehler bei Ausgleich:", {"", "", false});
-  add(ControlKind::Label, "LabelBeschreibung").caption(Umbrochen(kBeschreibung));
-  add(ControlKind::Label, "LabelMesswerte").caption(Umbrochen(kMesswerte));
+  add(ControlKind::Label, "LabelBeschreibung").caption(kBeschreibung).multiLine();
+  add(ControlKind::Label, "LabelMesswerte").caption(kMesswerte).multiLine();
   add(ControlKind::CheckBox, "CheckAusgleichen").caption("Aus&gleichen");
   add(ControlKind::Label, "LabelGeschlossen").caption("(nicht für geschlossene Polygonzüge geeignet)");
-  add(ControlKind::Label, "LabelAusgleichen").caption(Umbrochen(kAusgleichen));
+  add(ControlKind::Label, "LabelAusgleichen").caption(kAusgleichen).multiLine();
 
   // The notes stand between the groups the frame declared, in reading order.
   control("LabelBeschreibung").at(0, 0, 1, 2);

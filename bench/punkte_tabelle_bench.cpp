@@ -9,8 +9,8 @@
 #include "core/app/anwendung.h"
 #include "core/main/main_form.h"
 #include "forms/scripted.h"
+#include "points/punkte_verdrahtung.h"
 #include "points/tabelle/punkte_tabelle.h"
-#include "points/tabelle/verdrahtung.h"
 
 namespace {
 

@@ -7,6 +7,17 @@
 
 namespace kolm::forms {
 
+bool TakesFocus(ControlKind kind) {
+  switch (kind) {
+    case ControlKind::TextBox: case ControlKind::CheckBox: case ControlKind::OptionButton:
+    case ControlKind::ComboBox: case ControlKind::ListBox: case ControlKind::CommandButton:
+    case ControlKind::Grid: case ControlKind::SpinButton:
+      return true;
+    default:
+      return false;
+  }
+}
+
 const char* KindName(ControlKind kind) {
   switch (kind) {
     case ControlKind::Label: return "Label";

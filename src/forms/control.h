@@ -30,6 +30,8 @@ enum class ControlKind {
 };
 
 const char* KindName(ControlKind kind);
+// Kinds of control a user can put the focus on (by Tab or by clicking).
+bool TakesFocus(ControlKind kind);
 
 // What changed, so that a view mirrors only that.
 enum class Property {
@@ -126,6 +128,8 @@ class Control {
   const std::string& iconName() const { return icon_; }
   bool isMultiSelect() const { return multiSelect_; }
   bool isDropDownList() const { return dropDownList_; }
+  // The user types into it: a text box, or a combo box that is no fixed list.
+  bool typesText() const { return kind_ == ControlKind::TextBox || (kind_ == ControlKind::ComboBox && !dropDownList_); }
   bool isMultiLine() const { return multiLine_; }
   bool isDefault() const { return default_; }
   void setDefault(bool on);  // the form keeps one default button

@@ -126,22 +126,14 @@ Control* Form::cancelButton() const {
 }
 
 namespace {
-bool TakesFocus(const Control& c) {
-  switch (c.kind()) {
-    case ControlKind::TextBox: case ControlKind::CheckBox: case ControlKind::OptionButton:
-    case ControlKind::ComboBox: case ControlKind::ListBox: case ControlKind::CommandButton:
-    case ControlKind::Grid: case ControlKind::SpinButton:
-      return c.visible() && c.enabled();
-    default:
-      return false;
-  }
-}
+// Tab stops only at what the user can reach now.
+bool TabStop(const Control& c) { return TakesFocus(c.kind()) && c.visible() && c.enabled(); }
 }  // namespace
 
 void Form::moveFocus(bool backwards) {
   std::vector<Control*> order;
   for (const auto& c : controls_)
-    if (TakesFocus(*c)) order.push_back(c.get());
+    if (TabStop(*c)) order.push_back(c.get());
   if (order.empty()) return;
   auto it = std::find(order.begin(), order.end(), active_);
   size_t pos = it == order.end() ? (backwards ? 0 : order.size() - 1) : static_cast<size_t>(it - order.begin());
@@ -150,13 +142,6 @@ void Form::moveFocus(bool backwards) {
 }
 
 // ---- keys ------------------------------------------------------------------------------
-
-namespace {
-bool TypesText(const Control& c) {
-  return c.kind() == ControlKind::TextBox ||
-         (c.kind() == ControlKind::ComboBox && !c.isDropDownList());
-}
-}  // namespace
 
 Form::KeyResult Form::handleKey(Control& control, int keyCode, int shift, char32_t ch) {
   if (active_ != &control) setActiveControl(&control);
@@ -167,7 +152,7 @@ Form::KeyResult Form::handleKey(Control& control, int keyCode, int shift, char32
     return {true, 0, 0};
   }
   // Enter and Esc go to the form's default and cancel buttons first.
-  if (keyCode == keys::Return && !(TypesText(control) && control.isMultiLine()) &&
+  if (keyCode == keys::Return && !(control.typesText() && control.isMultiLine()) &&
       control.kind() != ControlKind::CommandButton) {
     if (Control* b = defaultButton()) {
       b->click();
@@ -201,7 +186,7 @@ Form::KeyResult Form::handleKey(Control& control, int keyCode, int shift, char32
 }
 
 void Form::defaultKeyAction(Control& control, int keyCode, int shift, char32_t ch) {
-  if (TypesText(control)) {
+  if (control.typesText()) {
     editText(control, keyCode, shift, ch);
   } else if (control.kind() == ControlKind::Grid) {
     moveInGrid(control, keyCode);

@@ -1,9 +1,5 @@
 #include "points/punkte_verdrahtung.h"
 
-#include "points/eingabe/verdrahtung.h"
-#include "points/kontrolle/verdrahtung.h"
-#include "points/tabelle/verdrahtung.h"
-
 namespace kolm::points {
 
 void PunkteFormulareRegistrieren(forms::Forms& forms, core::Anwendung& anwendung) {

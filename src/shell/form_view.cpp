@@ -109,21 +109,6 @@ std::string ToModelText(const QString& text, bool multiLine) {
   return s.toStdString();
 }
 
-bool TypesText(const Control& c) {
-  return c.kind() == ControlKind::TextBox ||
-         (c.kind() == ControlKind::ComboBox && !c.isDropDownList());
-}
-
-bool TakesFocus(ControlKind kind) {
-  switch (kind) {
-    case ControlKind::TextBox: case ControlKind::CheckBox: case ControlKind::OptionButton:
-    case ControlKind::ComboBox: case ControlKind::ListBox: case ControlKind::CommandButton:
-    case ControlKind::Grid: case ControlKind::SpinButton:
-      return true;
-    default:
-      return false;
-  }
-}
 
 constexpr const char* kDragFormat = "application/x-kolm-steuerelement";
 
@@ -284,13 +269,13 @@ void FormWidget::build(const ControlViews* views) {
   for (size_t i = 0; i < items_.size(); ++i) {
     Item& item = *items_[i];
     if (!item.widget) continue;
-    if (TakesFocus(item.control->kind()) || item.special) {
+    if (forms::TakesFocus(item.control->kind()) || item.special) {
       if (previous) QWidget::setTabOrder(previous, item.widget);
       previous = item.widget;
     }
     if (auto* label = qobject_cast<QLabel*>(item.widget)) {
       for (size_t j = i + 1; j < items_.size(); ++j)
-        if (items_[j]->widget && TakesFocus(items_[j]->control->kind())) {
+        if (items_[j]->widget && forms::TakesFocus(items_[j]->control->kind())) {
           label->setBuddy(items_[j]->widget);
           break;
         }
@@ -858,7 +843,7 @@ void FormWidget::connectSignals(Item& item) {
       Control& c = *it->control;
       c.setListIndex(index);
       // Choosing the entry that is already chosen still brings back its text.
-      if (form_ && c.listIndex() == index && index >= 0 && TypesText(c) && c.text() != c.list()[index])
+      if (form_ && c.listIndex() == index && index >= 0 && c.typesText() && c.text() != c.list()[index])
         c.setText(c.list()[index]);
       if (form_) {
         Updating guard(*this);
@@ -1064,7 +1049,7 @@ bool FormWidget::keyPress(Item& item, QObject* watched, QKeyEvent* event) {
     return true;
   };
   if (!form_ || r.consumed) return finish();
-  if (r.ch != key.ch && TypesText(c)) {
+  if (r.ch != key.ch && c.typesText()) {
     // A KeyPress handler typed another character: the model types it.
     selectionMoved(item);
     if (r.ch >= 32 && r.ch != 127) c.replaceSelection(forms::utf8::Encode(r.ch));

@@ -423,35 +423,33 @@ std::vector<QMdiSubWindow*> Windows(QMdiArea* area, bool minimized) {
     if (w->isVisible() && w->isMinimized() == minimized) out.push_back(w);
   return out;
 }
+// The windows side by side in the whole room: one above the other when
+// horizontally, one beside the other otherwise; a maximized one comes back.
+void Tile(QMdiArea* area, bool horizontally) {
+  const std::vector<QMdiSubWindow*> windows = Windows(area, false);
+  if (windows.empty()) return;
+  const QRect room = area->viewport()->rect();
+  const int n = static_cast<int>(windows.size());
+  for (int i = 0; i < n; ++i) {
+    if (windows[i]->isMaximized()) windows[i]->showNormal();
+    if (horizontally) {
+      const int top = room.height() * i / n, bottom = room.height() * (i + 1) / n;
+      windows[i]->setGeometry(0, top, room.width(), bottom - top);
+    } else {
+      const int left = room.width() * i / n, right = room.width() * (i + 1) / n;
+      windows[i]->setGeometry(left, 0, right - left, room.height());
+    }
+  }
+}
 }  // namespace
 
 void QtDesktop::cascade() {
   if (area_) area_->cascadeSubWindows();
 }
 
-void QtDesktop::tileHorizontally() {
-  const std::vector<QMdiSubWindow*> windows = Windows(area_, false);
-  if (windows.empty()) return;
-  const QRect room = area_->viewport()->rect();
-  const int n = static_cast<int>(windows.size());
-  for (int i = 0; i < n; ++i) {
-    if (windows[i]->isMaximized()) windows[i]->showNormal();
-    const int top = room.height() * i / n, bottom = room.height() * (i + 1) / n;
-    windows[i]->setGeometry(0, top, room.width(), bottom - top);
-  }
-}
+void QtDesktop::tileHorizontally() { Tile(area_, true); }
 
-void QtDesktop::tileVertically() {
-  const std::vector<QMdiSubWindow*> windows = Windows(area_, false);
-  if (windows.empty()) return;
-  const QRect room = area_->viewport()->rect();
-  const int n = static_cast<int>(windows.size());
-  for (int i = 0; i < n; ++i) {
-    if (windows[i]->isMaximized()) windows[i]->showNormal();
-    const int left = room.width() * i / n, right = room.width() * (i + 1) / n;
-    windows[i]->setGeometry(left, 0, right - left, room.height());
-  }
-}
+void QtDesktop::tileVertically() { Tile(area_, false); }
 
 void QtDesktop::arrangeIcons() {
   const std::vector<QMdiSubWindow*> icons = Windows(area_, true);

@@ -1,5 +1,7 @@
 #include "core/profile/profile.h"
 
+#include <algorithm>
+
 #include <array>
 #include <limits>
 #include <optional>
@@ -196,6 +198,14 @@ std::string_view Utf8Prefix(std::string_view s, size_t characters) {
   return s.substr(0, i);
 }
 
+// Lists a section or key name once, whatever its case; the first spelling stays.
+void AddOnce(std::vector<std::string>& names, std::vector<std::string>& seen, std::string_view name) {
+  std::string folded = Folded(name);
+  if (std::find(seen.begin(), seen.end(), folded) != seen.end()) return;
+  seen.push_back(std::move(folded));
+  names.push_back(io::Cp1252ToUtf8(name));
+}
+
 // Names in the form they are written, or nothing when refused.
 std::optional<std::string> SectionToWrite(std::string_view utf8) {
   std::string raw = io::Utf8ToCp1252(CutAtNul(utf8));
@@ -280,12 +290,7 @@ std::vector<std::string> ProfileFile::SectionNames() const {
   while (line.Advance()) {
     const Parsed p = Parse(line.Text());
     if (p.kind != Kind::Header || p.name.empty()) continue;
-    std::string folded = Folded(p.name);
-    bool known = false;
-    for (const std::string& s : seen) known = known || s == folded;
-    if (known) continue;
-    seen.push_back(std::move(folded));
-    names.push_back(io::Cp1252ToUtf8(p.name));
+    AddOnce(names, seen, p.name);
   }
   return names;
 }
@@ -299,12 +304,7 @@ std::vector<std::string> ProfileFile::KeyNames(std::string_view section) const {
   while (line.Advance()) {
     const Parsed p = Parse(line.Text());
     if (p.kind != Kind::Key) continue;
-    std::string folded = Folded(p.name);
-    bool known = false;
-    for (const std::string& s : seen) known = known || s == folded;
-    if (known) continue;
-    seen.push_back(std::move(folded));
-    names.push_back(io::Cp1252ToUtf8(p.name));
+    AddOnce(names, seen, p.name);
   }
   return names;
 }

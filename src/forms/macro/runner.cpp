@@ -55,18 +55,6 @@ const char* KindInGerman(ControlKind kind) {
   return "ein Steuerelement";
 }
 
-// Controls a user can put the focus on by clicking them.
-bool TakesFocus(const Control& c) {
-  switch (c.kind()) {
-    case ControlKind::TextBox: case ControlKind::CheckBox: case ControlKind::OptionButton:
-    case ControlKind::ComboBox: case ControlKind::ListBox: case ControlKind::CommandButton:
-    case ControlKind::Grid: case ControlKind::SpinButton:
-      return true;
-    default:
-      return false;
-  }
-}
-
 bool CellInside(const Control& grid, const Address& a) {
   return a.row < grid.rows() && a.col < grid.cols();
 }
@@ -348,7 +336,7 @@ void MacroRunner::requireUsable(Control& c, const Address& a) const {
 // Clicking or typing into a control first moves the focus to it, so the
 // LostFocus of the field before runs as it does for a user.
 void MacroRunner::focusFor(Control& c) const {
-  if (TakesFocus(c) && c.form().activeControl() != &c) c.setFocus();
+  if (forms::TakesFocus(c.kind()) && c.form().activeControl() != &c) c.setFocus();
   if (!c.form().loaded())
     throw CommandError{"Das Formular " + c.form().name() + " wurde beim Wechsel des Fokus geschlossen"};
 }

@@ -1,4 +1,4 @@
-#include "points/kontrolle/verdrahtung.h"
+#include "points/punkte_verdrahtung.h"
 
 #include <memory>
 

@@ -1,4 +1,4 @@
-#include "points/tabelle/verdrahtung.h"
+#include "points/punkte_verdrahtung.h"
 
 #include "core/app/anwendung.h"
 #include "core/main/main_form.h"

@@ -13,7 +13,7 @@
 #include "core/app/anwendung.h"
 #include "core/main/main_form.h"
 #include "forms/scripted.h"
-#include "points/eingabe/verdrahtung.h"
+#include "points/punkte_verdrahtung.h"
 
 namespace kolm::calc::testing {
 

@@ -6,7 +6,7 @@
 #include "forms/keys.h"
 #include "points/eingabe/eingabe_text.h"
 #include "points/eingabe/punkteingabe.h"
-#include "points/eingabe/verdrahtung.h"
+#include "points/punkte_verdrahtung.h"
 #include "umgebung.h"
 
 namespace kolm::points::testing {

@@ -15,8 +15,7 @@
 #include "core/state/zustand.h"
 #include "forms/keys.h"
 #include "forms/scripted.h"
-#include "points/kontrolle/verdrahtung.h"
-#include "points/tabelle/verdrahtung.h"
+#include "points/punkte_verdrahtung.h"
 #include "support/test_ordner.h"
 
 namespace kolm::points::test {

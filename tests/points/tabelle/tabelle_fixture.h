@@ -7,7 +7,7 @@
 #include "core/main/main_form.h"
 #include "forms/keys.h"
 #include "forms/scripted.h"
-#include "points/tabelle/verdrahtung.h"
+#include "points/punkte_verdrahtung.h"
 
 namespace kolm::points::test {
 

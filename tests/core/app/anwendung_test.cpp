@@ -8,6 +8,7 @@
 #include "core/main/main_form.h"
 #include "core/tables/tabellen_dateien.h"
 #include "forms/scripted.h"
+#include "support/befehls_protokoll.h"
 #include "support/test_ordner.h"
 
 namespace kolm::core {
@@ -16,19 +17,9 @@ namespace {
 namespace fs = std::filesystem;
 using forms::Answer;
 
-// A dialog with the hidden commands of the refresh table.
-class Zaehler : public forms::Form {
- public:
-  Zaehler(forms::Forms& f, std::string name) : Form(f, std::move(name), "Zähler") {
-    for (const char* befehl : {"Repaint", "ReRead", "RepaintPunkt", "KoordinatenSystem"}) {
-      add(forms::ControlKind::CommandButton, befehl).hidden();
-      on(befehl, forms::Event::Click, [this, befehl](forms::Control&, forms::EventArgs&) {
-        gerufen.push_back(befehl);
-      });
-    }
-  }
-  std::vector<std::string> gerufen;
-};
+// The refresh table's hidden commands, as the stand-ins have them.
+constexpr std::initializer_list<const char*> kBefehle = {"Repaint", "ReRead", "RepaintPunkt", "KoordinatenSystem"};
+using Zaehler = kolm::testhilfen::BefehlsProtokoll;
 
 struct Umgebung {
   forms::ScriptedServices dienste;
@@ -42,7 +33,7 @@ struct Umgebung {
   Umgebung() {
     forms.setHost(&host);
     for (const char* name : {"PunkteTabelle", "Grafik", "GrafikKontrolle", "Verbindungen", "Berechnungen"})
-      forms.registerForm(name, [name](forms::Forms& f) { return std::make_unique<Zaehler>(f, name); });
+      forms.registerForm(name, [name](forms::Forms& f) { return std::make_unique<Zaehler>(f, name, kBefehle); });
     RegisterMainForms(forms, "/nicht/da");
     anwendung.setMain(static_cast<MainForm*>(forms.load("Main")));
     zustand.ProjektVerzeichnis = ordner.string() + "/";

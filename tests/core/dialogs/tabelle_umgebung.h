@@ -17,6 +17,7 @@
 #include "core/tables/tabellen_dateien.h"
 #include "forms/keys.h"
 #include "forms/scripted.h"
+#include "support/befehls_protokoll.h"
 #include "support/test_ordner.h"
 
 namespace kolm::core::testing {
@@ -42,14 +43,6 @@ class DateiBilder final : public forms::ImageCodec {
   std::vector<std::string> gelesen;
 };
 
-// A dialog that only has to be open.
-class Platzhalter : public forms::Form {
- public:
-  Platzhalter(forms::Forms& f, std::string name) : Form(f, std::move(name), "Platzhalter") {
-    add(forms::ControlKind::CommandButton, "Repaint").hidden();
-  }
-};
-
 struct TabellenUmgebung {
   forms::ScriptedServices dienste;
   DateiBilder bilder;
@@ -65,7 +58,9 @@ struct TabellenUmgebung {
   TabellenUmgebung() {
     forms.setHost(&host);
     for (const char* name : {"Grafik", "PunkteTabelle", "Berechnungen", "Berechnen", "Verbindungen"})
-      forms.registerForm(name, [name](forms::Forms& f) { return std::make_unique<Platzhalter>(f, name); });
+      forms.registerForm(name, [name](forms::Forms& f) {
+        return std::make_unique<testhilfen::BefehlsProtokoll>(f, name, std::initializer_list<const char*>{"Repaint"});
+      });
     RegisterMainForms(forms, "/nicht/da");
     KernFormulareRegistrieren(forms, anwendung);
     anwendung.setMain(static_cast<MainForm*>(forms.load("Main")));

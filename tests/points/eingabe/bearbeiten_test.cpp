@@ -16,7 +16,7 @@ using forms::ControlKind;
 // behind one fixed row and column, whose ReRead is recorded.
 class Felder : public Protokoll {
  public:
-  explicit Felder(forms::Forms& f) : Protokoll(f, "Felder") {
+  explicit Felder(forms::Forms& f) : Protokoll(f, "Felder", {"Repaint", "RepaintPunkt", "ReRead"}) {
     add(ControlKind::TextBox, "Text1");
     add(ControlKind::TextBox, "Notiz").multiLine();
     add(ControlKind::ComboBox, "Combo");

@@ -9,22 +9,12 @@
 #include "core/app/anwendung.h"
 #include "core/main/main_form.h"
 #include "forms/scripted.h"
+#include "support/befehls_protokoll.h"
 
 namespace kolm::points::testing {
 
 // A loaded dialog that records which of its hidden commands ran.
-class Protokoll : public forms::Form {
- public:
-  Protokoll(forms::Forms& f, std::string name) : Form(f, name, name) {
-    for (const char* befehl : {"Repaint", "RepaintPunkt", "ReRead"}) {
-      add(forms::ControlKind::CommandButton, befehl).hidden();
-      on(befehl, forms::Event::Click, [this, befehl](forms::Control&, forms::EventArgs&) {
-        gerufen.push_back(befehl);
-      });
-    }
-  }
-  std::vector<std::string> gerufen;
-};
+using Protokoll = kolm::testhilfen::BefehlsProtokoll;
 
 struct Umgebung {
   forms::ScriptedServices dienste;
@@ -36,7 +26,9 @@ struct Umgebung {
   Umgebung() {
     forms.setHost(&host);
     for (const char* name : {"PunkteTabelle", "Grafik", "VariablenTabelle"})
-      forms.registerForm(name, [name](forms::Forms& f) { return std::make_unique<Protokoll>(f, name); });
+      forms.registerForm(name, [name](forms::Forms& f) {
+        return std::make_unique<Protokoll>(f, name, std::initializer_list<const char*>{"Repaint", "RepaintPunkt", "ReRead"});
+      });
     core::RegisterMainForms(forms, "/nicht/da");
     anwendung.setMain(static_cast<core::MainForm*>(forms.load("Main")));
   }

@@ -101,6 +101,18 @@ bool TestStamm(std::string_view stamm) {
 
 // ---- Readers ---------------------------------------------------------------------
 
+namespace {
+
+// Hands each whole record of a file of fixed-length records to f, in order,
+// while f asks for more; the short tail of a damaged file is no record.
+template <class F>
+void JederSatz(std::string_view daten, std::size_t laenge, F f) {
+  for (std::size_t pos = 0; pos + laenge <= daten.size(); pos += laenge)
+    if (!f(daten.substr(pos, laenge))) return;
+}
+
+}  // namespace
+
 void LesePunkte(TabellenKontext& k, std::string_view stamm) {
   Zustand& z = k.zustand;
   Status(k, "Punkte-Tabelle lesen...");
@@ -117,15 +129,15 @@ void LesePunkte(TabellenKontext& k, std::string_view stamm) {
   }
   const int hoechste = std::min<int>(z.AnzahlPunkte, static_cast<int>(z.Punkte.size()) - 1);
   int zuletzt = -1;
-  const std::string_view d(*daten);
-  for (std::size_t pos = 0; pos + PunktSatzLaenge <= d.size(); pos += PunktSatzLaenge) {
-    const Punkt p = PunktAusSatz(d.substr(pos, PunktSatzLaenge));
+  JederSatz(*daten, PunktSatzLaenge, [&](std::string_view satz) {
+    const Punkt p = PunktAusSatz(satz);
     // Only a rising sequence of numbers is taken.
     if (p.Nummer > zuletzt && p.Nummer <= hoechste) {
       z.Punkte[static_cast<std::size_t>(p.Nummer)] = p;
       zuletzt = p.Nummer;
     }
-  }
+    return true;
+  });
 }
 
 void LeseVerbindungen(TabellenKontext& k, std::string_view stamm) {
@@ -136,13 +148,11 @@ void LeseVerbindungen(TabellenKontext& k, std::string_view stamm) {
   const auto daten = DateiInhalt(TabellenDatei(z, stamm, ".ver"));
   if (!daten) return;
   int zaehler = 0;
-  const std::string_view d(*daten);
-  for (std::size_t pos = 0; pos + VerbindungSatzLaenge <= d.size() && zaehler < AnzahlVerbindungen;
-       pos += VerbindungSatzLaenge) {
-    const Verbindung v = VerbindungAusSatz(d.substr(pos, VerbindungSatzLaenge));
-    if (v.Von == v.Nach) continue;
-    z.Verbindungen[static_cast<std::size_t>(zaehler++)] = v;
-  }
+  JederSatz(*daten, VerbindungSatzLaenge, [&](std::string_view satz) {
+    const Verbindung v = VerbindungAusSatz(satz);
+    if (v.Von != v.Nach) z.Verbindungen[static_cast<std::size_t>(zaehler++)] = v;
+    return zaehler < AnzahlVerbindungen;
+  });
   z.NaechsteFreieVerbindung = static_cast<Integer>(zaehler);
 }
 
@@ -153,11 +163,11 @@ void LeseBoegen(TabellenKontext& k, std::string_view stamm) {
   z.BoegenLeeren();
   const auto daten = DateiInhalt(TabellenDatei(z, stamm, ".bog"));
   if (!daten) return;
-  const std::string_view d(*daten);
-  for (std::size_t pos = 0; pos + BogenSatzLaenge <= d.size(); pos += BogenSatzLaenge) {
-    const Bogen b = BogenAusSatz(d.substr(pos, BogenSatzLaenge));
+  JederSatz(*daten, BogenSatzLaenge, [&](std::string_view satz) {
+    const Bogen b = BogenAusSatz(satz);
     if (b.Nummer >= 0 && b.Nummer < AnzahlBoegen) z.Boegen[static_cast<std::size_t>(b.Nummer)] = b;
-  }
+    return true;
+  });
 }
 
 void LeseBilder(TabellenKontext& k, std::string_view stamm) {
@@ -167,10 +177,11 @@ void LeseBilder(TabellenKontext& k, std::string_view stamm) {
   z.HintergrundbilderLeeren();
   const auto daten = DateiInhalt(TabellenDatei(z, stamm, ".pic"));
   if (!daten) return;
-  const std::string_view d(*daten);
   int slot = 0;
-  for (std::size_t pos = 0; pos + BildSatzLaenge <= d.size() && slot < AnzahlBilder; pos += BildSatzLaenge)
-    z.Hintergrundbilder[static_cast<std::size_t>(slot++)] = BildAusSatz(d.substr(pos, BildSatzLaenge));
+  JederSatz(*daten, BildSatzLaenge, [&](std::string_view satz) {
+    z.Hintergrundbilder[static_cast<std::size_t>(slot++)] = BildAusSatz(satz);
+    return slot < AnzahlBilder;
+  });
   z.NaechstesFreiesBild = AnzahlBilder;
   for (int n = AnzahlBilder - 1; n >= 0; --n)
     if (z.Hintergrundbilder[static_cast<std::size_t>(n)].Breite == 0) z.NaechstesFreiesBild = static_cast<Integer>(n);
